@@ -1,4 +1,5 @@
-# Writes the sound effects of the games: python3 tools/make_waves.py [folder, assets/waves if left out].
+# Writes the sound effects of the games: python3 tools/make_waves.py [folder]
+# Without an argument the folder is assets/waves.
 
 import math
 import random
@@ -33,7 +34,7 @@ THUMP = Voice(((1, 1.0, 55), (1.7, 0.4, 80)), 0.001)
 
 def phrase(voice, notes):
     """Mixes a table of (start, pitch, seconds, level) rows."""
-    return mix([(start, level, note(voice, pitch, length)) for start, pitch, length, level in notes])
+    return mix([(start, level, note(voice, pitch, time)) for start, pitch, time, level in notes])
 
 
 def chord():
