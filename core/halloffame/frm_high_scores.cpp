@@ -112,7 +112,9 @@ void frmHighScores::Timer1_Timer() {
   if (blinkingRow_ >= 0) ShowRow(blinkingRow_, !ScoreList(2 * blinkingRow_).Visible());
 }
 
-void frmHighScores::cmdDone_Click() { Unload(); }
+void frmHighScores::cmdDone_Click() {
+  Unload();
+}
 
 void frmHighScores::Unloading() {
   Timer1.Enabled = false;

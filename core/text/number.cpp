@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 
 namespace core {
 namespace {
@@ -87,6 +88,19 @@ std::string Percent(float value) {
   text += '.';
   if (size % 100 != 0) text += static_cast<char>('0' + size % 100 / 10);
   if (size % 10 != 0) text += static_cast<char>('0' + size % 10);
+  return text;
+}
+
+std::int64_t Product(std::int64_t a, std::int64_t b) {
+  std::int64_t product = 0;
+  if (!__builtin_mul_overflow(a, b, &product)) return product;
+  using Limits = std::numeric_limits<std::int64_t>;
+  return (a < 0) == (b < 0) ? Limits::max() : Limits::min();
+}
+
+std::string NumberText(double value) {
+  char text[64];
+  std::snprintf(text, sizeof text, "%.15g", value);
   return text;
 }
 

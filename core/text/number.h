@@ -18,6 +18,9 @@ double NumberIn(std::string_view text);
 // NumberIn, rounded to the nearest whole number, ties to even, kept within 64 bits.
 std::int64_t WholeIn(std::string_view text);
 
+// The product, kept within 64 bits.
+std::int64_t Product(std::int64_t a, std::int64_t b);
+
 // The nearest whole number, ties to even; what leaves 64 bits is clamped, a NaN gives 0.
 std::int64_t RoundToEven(double value);
 
@@ -34,6 +37,9 @@ T ClampTo(std::int64_t value) {
 
 // Plain decimal digits, with '-' before a negative number and no blank: 1234567 is "1234567".
 std::string Digits(std::int64_t value);
+
+// A number as a text field shows it: without a point if it is whole, as "2.5" if not.
+std::string NumberText(double value);
 
 // The mask "###,###,###,##0": 1234567 is "1,234,567", 0 is "0".
 std::string Masked(std::int64_t value);
