@@ -57,6 +57,7 @@ class Window : public Changeable {
   /// How the controls of a dialog are laid out; empty for a window that places them itself.
   const Form& Layout() const { return layout_; }
 
+  virtual void Load() {}       ///< right before it is shown for the first time; may tell the player
   virtual void Activate() {}   ///< shown, or shown again
   virtual void Resized() {}    ///< after each change of size or state
   virtual void MouseMove() {}  ///< the pointer moves over the window beside its controls
