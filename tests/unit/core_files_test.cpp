@@ -78,6 +78,16 @@ TEST(AKilledWriterLeavesTheOldFileOrTheNewOne) {
   }
 }
 
+TEST(WhatAKilledNamesakeLeftIsNotInTheWay) {
+  const Scratch scratch;  // in a container each run of the program can have the same process id
+  for (int i = 1; i <= 300; ++i) {
+    const std::string leftOver = ".pastimo-" + std::to_string(::getpid()) + "-" + std::to_string(i);
+    CHECK(WriteWhole(scratch / leftOver, "half"));
+  }
+  CHECK(WriteWhole(scratch / "User.ini", "whole"));
+  CHECK_EQ(scratch.Entries(), 301);
+}
+
 TEST(AWriteThatFailsKeepsTheOldFile) {
   const Scratch scratch;
   const std::string path = scratch / "User.ini";

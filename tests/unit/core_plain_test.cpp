@@ -197,6 +197,7 @@ TEST(MomentsAreShownReadAndCounted) {
   CHECK_EQ(ClockText(at(12, 5)), "12:05 PM");
   CHECK_EQ(ClockText(at(23, 59)), "11:59 PM");
   CHECK_EQ(TableDate(at(0, 0)), fillerDate);
+  CHECK_EQ(TableDate(at(12, 0)), "Jan 01 2000 12:00 pm");
   CHECK_EQ(TableDate({2026, 12, 9, 13, 7, 8}), "Dec 09 2026 01:07 pm");
 
   CHECK_EQ(SecondsSince1970({1970, 1, 1, 0, 0, 0}), 0);
@@ -372,8 +373,8 @@ TEST(DamagedTablesAreReadAsFarAsTheyGo) {
   CHECK_EQ(ParseTable("A, rubbish, x")[0].score, 0);
   // A quote in a name may not swallow the rows behind it, a comma or line end not shift them.
   CHECK_EQ(ParseTable("\"A, 3, x\r\nB\", 2, y\r\n")[0].score, 3);
-  const auto odd = ParseTable(FormatTable({{"a,b\r\nc", 7, "d\n,"}, {"E", 6, "f"}}));
-  CHECK_EQ(odd[0].name, "a b  c");
+  const auto odd = ParseTable(FormatTable({{"\"a,b\r\nc", 7, "d\n,\""}, {"E", 6, "f"}}));
+  CHECK_EQ(odd[0].name, "\"a b  c");
   CHECK_EQ(odd[1].score, 6);
   CHECK(RankFor({}, 5) == -1 && Insert({}, 3, {"A", 1, ""}).size() == 1);
   CHECK_EQ(ParseTable(std::string(1000000, '\0')).size(), 0u);
