@@ -75,7 +75,8 @@ class Replacement {
       TellStep();
       const std::size_t size = std::min(content.size(), chunkSize);
       const ssize_t put = Retry([&] { return ::write(file_.Number(), content.data(), size); });
-      if (put < 0) return false;
+      if (put == 0) errno = EIO;
+      if (put <= 0) return false;
       content.remove_prefix(static_cast<std::size_t>(put));
     }
     TellStep();

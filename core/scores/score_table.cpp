@@ -11,9 +11,11 @@
 namespace core {
 namespace {
 
-std::string OneItem(std::string text) {
-  std::replace_if(
-      text.begin(), text.end(), [](char c) { return c == ',' || c == '\r' || c == '\n'; }, ' ');
+// The text with a blank for each character that would end the item too early or too late.
+std::string OneItem(std::string text, std::string_view foreign) {
+  for (char& c : text) {
+    if (foreign.find(c) != std::string_view::npos) c = ' ';
+  }
   return text;
 }
 
@@ -45,8 +47,9 @@ std::vector<ScoreRow> ParseTable(std::string_view text) {
 std::string FormatTable(const std::vector<ScoreRow>& rows) {
   std::string text;
   for (std::size_t i = 0; i < std::min(rows.size(), scoreRows); ++i) {
-    text += OneItem(rows[i].name) + ", " + Digits(rows[i].score) + ", " + OneItem(rows[i].date);
-    text += "\r\n";
+    // A quote in a date could close one that begins the name, and so hide the score between them.
+    text += OneItem(rows[i].name, ",\r\n") + ", " + Digits(rows[i].score) + ", " +
+            OneItem(rows[i].date, ",\r\n\"") + "\r\n";
   }
   return text + "\r\n";
 }

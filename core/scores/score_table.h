@@ -30,8 +30,8 @@ std::vector<ScoreRow> NewTable(std::int32_t startScore);
 // the end is no row.
 std::vector<ScoreRow> ParseTable(std::string_view text);
 
-// The file's text: ten rows at most, one a line, then an empty line. A comma or a line end in a
-// name or date would shift all that follows on reading, and is written as a blank.
+// The file's text: ten rows at most, one a line, then an empty line. A comma, a line
+// end, and a quote in a date would shift what follows on reading, and are written as blanks.
 std::string FormatTable(const std::vector<ScoreRow>& rows);
 
 // The file of a table. The path of the program's directory and the table's name are joined as they

@@ -8,24 +8,8 @@
 namespace core {
 namespace {
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 bool IsBlank(char c) {
   return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-// How many characters at the start of the text are digits with at most one point among them.
-std::size_t LengthOfNumber(std::string_view text) {
-  bool pointSeen = false;
-  std::size_t length = 0;
-  for (; length < text.size(); ++length) {
-    if (IsDigit(text[length])) continue;
-    if (text[length] != '.' || pointSeen) break;
-    pointSeen = true;
-  }
-  return length;
 }
 
 // A number without a sign that from_chars found to be out of range: too large or too small.
@@ -41,7 +25,8 @@ double NumberIn(std::string_view text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
   const bool negative = !text.empty() && text.front() == '-';
   if (negative || (!text.empty() && text.front() == '+')) text.remove_prefix(1);
-  text = text.substr(0, LengthOfNumber(text));
+  // from_chars alone would take "inf" and "nan" as well; it stops at a second point by itself.
+  text = text.substr(0, text.find_first_not_of("0123456789."));
 
   double value = 0;
   const auto result =
