@@ -4,10 +4,10 @@
 import sys
 from pathlib import Path
 
-from artwork import faces
+from artwork import backs, emblems, faces
 
 DEFAULT_FOLDER = Path(__file__).resolve().parent.parent / "assets" / "pictures"
-SOURCES = (faces,)
+SOURCES = (faces, backs, emblems)
 
 
 def main():

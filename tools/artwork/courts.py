@@ -9,7 +9,9 @@ the hair and what the hand holds.
 from dataclasses import dataclass
 
 from artwork.pips import COLOURS, OUTLINES, pip
-from artwork.svg import GOLD, INK, circle, group, linear, mirrored, path, rect, round_box, turned, use
+from artwork.svg import (
+    GOLD, INK, circle, group, mirrored, path, rect, round_box, turned, use,
+)
 
 MIDDLE_X, MIDDLE_Y = 34.5, 47.0
 LEFT, TOP, RIGHT, BOTTOM = 13.5, 6.5, 55.5, 87.5
@@ -31,7 +33,7 @@ class Palette:
 
 PALETTES = {
     "S": Palette("#2d4aa3", "#1b2d6b", "#b9cbee", "#e9eefb", "#2a2530", "#f4d2b4", "#7fb2ff"),
-    "H": Palette("#c2223a", "#86122a", "#f7cf6b", "#fdeee4", "#dca23e", "#f9dcc2", "#e8304a"),
+    "H": Palette("#c2223a", "#86122a", "#f7cf6b", "#fdeee4", "#f0c869", "#f9dcc2", "#e8304a"),
     "C": Palette("#1f7a50", "#0f4a33", "#dfe59a", "#eaf5e6", "#4b2b1b", "#b57a52", "#35c07f"),
     "D": Palette("#7a3a9a", "#4d1f69", "#f2a33c", "#fbf0de", "#b5481f", "#f0c39c", "#b864e0"),
 }

@@ -3,7 +3,9 @@
 from artwork import courts
 from artwork.glyphs import RANKS, word
 from artwork.pips import COLOURS, OUTLINES, PLACES, pip
-from artwork.svg import GOLD, IVORY, document, linear, path, rect, star, turned, use, circle
+from artwork.svg import (
+    GOLD, IVORY, circle, document, linear, mirrored, path, rect, star, turned, use,
+)
 
 WIDTH, HEIGHT = 69, 94
 EDGE = "#6f6a5f"
@@ -52,37 +54,50 @@ def plain_ace(suit):
     return pip(suit, 34.5, 47, 34, "url(#ink)") + line + gem + leaves + turned(leaves, 34.5, 47)
 
 
+SPADE_LEAF = (
+    "M0 -5C1 -3 4.7 -0.9 4.7 1.7C4.7 3.2 3.6 4 2.5 4C1.4 4 0.4 3.2 0 2.2"
+    "C-0.4 3.2 -1.4 4 -2.5 4C-3.6 4 -4.7 3.2 -4.7 1.7C-4.7 -0.9 -1 -3 0 -5Z"
+)
+LAUREL_LEAF = "M0 0C1.2 -2.4 3.6 -2.8 5.4 -2C4.4 -0.2 2.4 0.9 0 0Z"
+LAUREL = ((17, 70, -80), (18.6, 74.2, -62), (21.6, 78, -45), (25.6, 81, -28), (30.2, 82.9, -12))
+
+
+def laurel_branch(colour):
+    branch = path("M34.5 83.5C26 83.5 19 78 16.6 68", stroke=colour, width=0.8)
+    for x, y, angle in LAUREL:
+        for where in (f"rotate({angle - 150})", f"rotate({angle}) scale(1 -1)"):
+            branch += use("leaf", f"translate({x} {y}) {where}")
+    return branch
+
+
 def spade_ace():
-    """The grand ace: a spade filled with filigree between two laurel branches."""
+    """The grand ace: a crowned spade with gold tracery over two laurel branches."""
+    dark = COLOURS["S"]
     spade = pip("S", 34.5, 46, 48, "url(#ink)")
     lines = "".join(
-        path(OUTLINES["S"], stroke=colour, width=width,
+        path(SPADE_LEAF, stroke=colour, width=width,
              extra=f' transform="translate(34.5 {y}) scale({scale})"')
-        for scale, y, width, colour in ((4.2, 45.7, 0.16, GOLD), (2.5, 46.6, 0.24, "#dfe6ff")))
+        for scale, y, width, colour in ((4.15, 46.2, 0.17, GOLD), (3.5, 46.9, 0.1, "#cfd8ff")))
     vine = (
-        "M34.5 64C31 60 28.5 59.5 25 59.8C22 60 20.5 57.5 21.6 55.4C22.6 53.6 25 54.4 24.8 56"
-        "M28 45C25.2 47 23 48.6 21.2 51M34.5 37C34.5 34 34.5 32 34.5 29"
+        "M34.5 50C33.6 54 31.4 56.6 28 56.8C25 57 22.8 55 23.4 52.4C24 50.2 27 50.2 27.2 52.2"
+        "C27.3 53.4 26.2 53.9 25.4 53.4M34.5 45C32 44.6 28.4 45.6 26.6 48.2"
+        "M34.5 45C31.4 43 30 40.6 30.6 38.4C31 37 33 37.2 32.8 38.6"
     )
-    flower = path(star(34.5, 47.4, 8, 6, 2.6), GOLD) + circle(34.5, 47.4, 1.9, "#18203f")
-    half = path(vine, stroke=GOLD, width=0.7, extra=' stroke-linecap="round"')
-    branch = path("M34.5 83.5C26 83.5 19 78 16.6 68", stroke="#18203f", width=0.8)
-    for x, y, angle in ((17, 70, -80), (18.6, 74.2, -62), (21.6, 78, -45), (25.6, 81, -28),
-                        (30.2, 82.9, -12)):
-        leaf = "M0 0C1.2 -2.4 3.6 -2.8 5.4 -2C4.4 -0.2 2.4 0.9 0 0Z"
-        where = f' transform="translate({x} {y}) rotate({angle - 150})"'
-        branch += path(leaf, "#18203f", extra=where)
-        where = f' transform="translate({x} {y}) rotate({angle}) scale(1 -1)"'
-        branch += path(leaf, "#18203f", extra=where)
-    crown = path("M28.6 18.6L27.4 12L31.4 14.8L34.5 9.8L37.6 14.8L41.6 12L40.4 18.6Z", GOLD, "#18203f", 0.6)
-    side = half + branch
-    flipped = f'<g transform="translate(69 0) scale(-1 1)">{side}</g>'
-    return spade + lines + side + flipped + flower + crown
+    side = path(vine, stroke=GOLD, width=0.7, extra=' stroke-linecap="round"') + laurel_branch(dark)
+    flower = path(star(34.5, 46.6, 8, 5, 2.2), GOLD) + circle(34.5, 46.6, 1.6, dark)
+    bud = path("M34.5 29.4C36 31.6 36 33.6 34.5 36C33 33.6 33 31.6 34.5 29.4Z", GOLD)
+    crown_line = "M28.6 18.6L27.4 12L31.4 14.8L34.5 9.8L37.6 14.8L41.6 12L40.4 18.6Z"
+    crown = path(crown_line, GOLD, dark, 0.6) + path("M29.4 16.8L39.6 16.8", stroke=dark, width=0.6)
+    return spade + lines + side + mirrored(side, 34.5) + bud + flower + crown
 
 
 def ace(suit):
     dark, light = ("#18203f", "#34457f") if COLOURS[suit] == "#18203f" else ("#a80c26", "#e0354a")
     body = spade_ace() if suit == "S" else plain_ace(suit)
-    return blank_card() + corners("A", suit) + body, linear("ink", light, dark)
+    defs = linear("ink", light, dark)
+    if suit == "S":
+        defs += path(LAUREL_LEAF, dark, extra=' id="leaf"')
+    return blank_card() + corners("A", suit) + body, defs
 
 
 def face(rank, suit):

@@ -20,7 +20,7 @@ OUTLINES = {
 
 COLOURS = {"S": BLACK, "H": RED, "C": BLACK, "D": RED}
 
-LEFT, MIDDLE, RIGHT = 22.0, 34.5, 47.0
+LEFT, MIDDLE, RIGHT = 22.8, 34.5, 46.2
 ROW = {"top": 17.5, "bottom": 76.5, "upper": 37.2, "lower": 56.8, "centre": 47.0}
 
 

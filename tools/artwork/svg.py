@@ -95,7 +95,8 @@ def star(x, y, points, outer, inner, turn=-90.0):
     for i in range(2 * points):
         radius = outer if i % 2 == 0 else inner
         angle = math.radians(turn + 180.0 * i / points)
-        corners.append(f"{num(x + radius * math.cos(angle))} {num(y + radius * math.sin(angle))}")
+        corners.append(
+            f"{x + radius * math.cos(angle):.1f} {y + radius * math.sin(angle):.1f}")
     return "M" + "L".join(corners) + "Z"
 
 
@@ -106,6 +107,6 @@ def document(width, height, body, defs="", comment=""):
     return (
         '<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" '
         f'width="{width}" height="{height}" viewBox="0 0 {width} {height}" '
-        'version="1.2" baseProfile="tiny">\n'
+        'version="1.2">\n'
         f"{note}{shared}{body}\n</svg>\n"
     )
