@@ -4,7 +4,8 @@ from artwork import courts
 from artwork.glyphs import RANKS, word
 from artwork.pips import COLOURS, OUTLINES, PLACES, pip
 from artwork.svg import (
-    GOLD, IVORY, circle, document, linear, mirrored, path, rect, star, turned, use,
+    GOLD, IVORY, circle, document, group, linear, mirrored, path, rect, star, turned,
+    use,
 )
 
 WIDTH, HEIGHT = 69, 94
@@ -34,12 +35,14 @@ def pip_card(rank, suit):
 def scrolls(colour):
     """Two curling leaves above an ace; the same turned stand below it."""
     curl = (
-        "M34.5 19C30 19 27.5 16.8 24.8 16.8C22.6 16.8 21.4 18.2 21.4 19.7C21.4 21 22.4 21.8 23.5 21.8"
+        "M34.5 19C30 19 27.5 16.8 24.8 16.8C22.6 16.8 21.4 18.2 21.4 19.7"
+        "C21.4 21 22.4 21.8 23.5 21.8"
         "C24.5 21.8 25.1 21.1 25.1 20.3M34.5 19C39 19 41.5 16.8 44.2 16.8C46.4 16.8 47.6 18.2 47.6 19.7"
         "C47.6 21 46.6 21.8 45.5 21.8C44.5 21.8 43.9 21.1 43.9 20.3"
     )
     leaf = "M34.5 12C36.6 14.4 36.6 16.6 34.5 19C32.4 16.6 32.4 14.4 34.5 12Z"
-    return path(curl, stroke=colour, width=0.9, extra=' stroke-linecap="round"') + path(leaf, colour)
+    return path(curl, stroke=colour, width=0.9, extra=' stroke-linecap="round"') + path(leaf,
+                                                                                        colour)
 
 
 def plain_ace(suit):
@@ -83,7 +86,8 @@ def spade_ace():
         "C27.3 53.4 26.2 53.9 25.4 53.4M34.5 45C32 44.6 28.4 45.6 26.6 48.2"
         "M34.5 45C31.4 43 30 40.6 30.6 38.4C31 37 33 37.2 32.8 38.6"
     )
-    side = path(vine, stroke=GOLD, width=0.7, extra=' stroke-linecap="round"') + laurel_branch(dark)
+    side = path(vine, stroke=GOLD, width=0.7, extra=' stroke-linecap="round"')
+    side += group(laurel_branch(dark), "translate(3.45 8.4) scale(0.9)")
     flower = path(star(34.5, 46.6, 8, 5, 2.2), GOLD) + circle(34.5, 46.6, 1.6, dark)
     bud = path("M34.5 29.4C36 31.6 36 33.6 34.5 36C33 33.6 33 31.6 34.5 29.4Z", GOLD)
     crown_line = "M28.6 18.6L27.4 12L31.4 14.8L34.5 9.8L37.6 14.8L41.6 12L40.4 18.6Z"

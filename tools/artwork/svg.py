@@ -1,6 +1,7 @@
 """Small helpers that write SVG Tiny 1.2 text, the dialect that Qt SVG draws."""
 
 import math
+import re
 
 INK = "#231c2b"
 IVORY = "#fffdf4"
@@ -13,10 +14,15 @@ def num(value):
     return "0" if text == "-0" else text
 
 
+def short(data):
+    """The same path data in fewer letters."""
+    return re.sub(r"(?<![\d.])0(?=\.\d)", "", data).replace(" -", "-")
+
+
 def path(data, fill="none", stroke=None, width=0.55, extra=""):
     """One path; without a stroke colour it has no outline."""
     line = f' stroke="{stroke}" stroke-width="{num(width)}"' if stroke else ""
-    return f'<path d="{data}" fill="{fill}"{line}{extra}/>'
+    return f'<path d="{short(data)}" fill="{fill}"{line}{extra}/>'
 
 
 def circle(x, y, radius, fill, stroke=None, width=0.55, extra=""):
