@@ -23,18 +23,23 @@ MOST_GOLD = 0.62
 WORD, LETTER_HEIGHT = "PASTIMO", 58
 
 
-def mix(one, two, share):
-    return tuple(round(a + (b - a) * share) for a, b in zip(one, two))
+def mix(one, two, amount):
+    return tuple(round(a + (b - a) * amount) for a, b in zip(one, two))
 
 
 def palette():
     cloth = [mix(DARK, LIGHT, i / (LEVELS - 1)) for i in range(LEVELS)]
-    return [mix(green, GOLD, MOST_GOLD * g / (GILDING - 1)) for g in range(GILDING) for green in cloth]
+    amounts = [MOST_GOLD * g / (GILDING - 1) for g in range(GILDING)]
+    return [mix(green, GOLD, amount) for amount in amounts for green in cloth]
+
+
+def share(value):
+    return max(0.0, min(1.0, value))
 
 
 def line(distance, width=1.0):
     """Coverage of a line at a distance from its middle."""
-    return max(0.0, min(1.0, width / 2 + 0.5 - abs(distance)))
+    return share(width / 2 + 0.5 - abs(distance))
 
 
 def tile_levels():
@@ -49,9 +54,9 @@ def tile_levels():
             added[x, y] = 0.075 * lattice
     places = {"S": (half, half), "H": (0, half), "C": (0, 0), "D": (half, 0)}
     for suit, (x, y) in places.items():
-        for (px, py), share in filled(flatten(OUTLINES[suit], 1.5, x, y)).items():
+        for (px, py), cover in filled(flatten(OUTLINES[suit], 1.5, x, y)).items():
             at = px % TILE, py % TILE
-            added[at] += (0.09 if suit in "SC" else -0.08) * share
+            added[at] += (0.09 if suit in "SC" else -0.08) * cover
     return added
 
 
@@ -92,24 +97,28 @@ def corner_masks():
 def draw():
     """All pixels, row by row, as indices of the palette."""
     pattern, (letters, shadow), corners = tile_levels(), word_mask(), corner_masks()
+
+    def level(x, y, at):
+        """How light the cloth is: brightest in the middle, calm in the oval and on the border."""
+        inside, outside = share(0.5 - oval(x, y, 246, 92)), share(0.5 - border(x, y, 14))
+        here = 0.74 - 0.36 * math.hypot((x - MIDDLE_X) / MIDDLE_X, (y - MIDDLE_Y) / MIDDLE_Y)
+        here += pattern[at[0] % TILE, at[1] % TILE] * (1 - max(inside, outside))
+        here -= 0.13 * inside + 0.08 * outside
+        letter = letters.get(at, 0.0)
+        return here + 0.2 * letter - 0.2 * max(0.0, shadow.get(at, 0.0) - letter)
+
+    def gold(x, y, at):
+        return max(
+            line(oval(x, y, 246, 92), 2.4) * 0.8, line(oval(x, y, 236, 84)) * 0.55,
+            line(border(x, y, 14), 2) * 0.8, line(border(x, y, 19)) * 0.5,
+            corners.get(at, 0.0) * 0.75, letters.get(at, 0.0) * 0.5)
+
     pixels = bytearray()
     for py in range(HEIGHT):
         for px in range(WIDTH):
-            x, y, at = px + 0.5, py + 0.5, (px, py)
-            reach = math.hypot((x - MIDDLE_X) / MIDDLE_X, (y - MIDDLE_Y) / MIDDLE_Y)
-            level = 0.74 - 0.36 * reach
-            rim, frame = oval(x, y, 246, 92), border(x, y, 14)
-            inside = max(0.0, min(1.0, 0.5 - rim))
-            calm = max(inside, max(0.0, min(1.0, 0.5 - frame)))
-            level += pattern[px % TILE,
-                             py % TILE] * (1 - calm) - 0.13 * inside - 0.08 * (calm - inside)
-            level -= 0.2 * max(0.0, shadow.get(at, 0.0) - letters.get(at, 0.0))
-            level += 0.2 * letters.get(at, 0.0)
-            gold = max(line(rim, 2.4) * 0.8, line(oval(x, y, 236, 84)) * 0.55, line(frame, 2) * 0.8,
-                       line(border(x, y, 19)) * 0.5, corners.get(at, 0.0) * 0.75,
-                       letters.get(at, 0.0) * 0.5)
-            green = max(0, min(LEVELS - 1, round(level * (LEVELS - 1))))
-            pixels.append(round(gold * (GILDING - 1)) * LEVELS + green)
+            place = px + 0.5, py + 0.5, (px, py)
+            green = round(share(level(*place)) * (LEVELS - 1))
+            pixels.append(round(gold(*place) * (GILDING - 1)) * LEVELS + green)
     return pixels
 
 

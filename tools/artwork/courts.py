@@ -2,15 +2,15 @@
 
 Each half is drawn upright into the upper part of the frame and ends at a slanting line through the
 middle; a sash hides the seam. Rank shows in the headgear and the dress (King: crown, beard, ermine;
-Queen: long hair, tiara, flower; Jack: feathered cap, ruff, two-coloured doublet), suit in the palette,
-the hair and what the hand holds.
+Queen: long hair, tiara, flower; Jack: feathered cap, ruff, two-coloured doublet), suit in the
+palette, the hair and what the hand holds.
 """
 
 from dataclasses import dataclass
 
 from artwork.pips import COLOURS, OUTLINES, pip
 from artwork.svg import (
-    GOLD, INK, circle, group, mirrored, path, rect, round_box, turned, use,
+    GOLD, INK, circle, group, mirrored, num, path, rect, round_box, turned, use,
 )
 
 MIDDLE_X, MIDDLE_Y = 34.5, 47.0
@@ -66,10 +66,12 @@ def features(skin_line, mouth_y, brow_lift=0.0):
 
 def hand(x, y, skin):
     """A closed hand around something upright."""
-    fist = f"M{x - 2.6} {y - 1.8}C{x - 1} {y - 2.8} {x + 1.8} {y - 2.8} {x + 2.4} {y - 1.4}" \
-           f"C{x + 3} {y + 0.6} {x + 2} {y + 2.6} {x} {y + 2.6}C{x - 2.2} {y + 2.6} {x - 3} {y + 0.4} {x - 2.6} {y - 1.8}Z"
-    fingers = f"M{x - 2.4} {y - 0.3}L{x + 0.6} {y - 0.4}M{x - 2.3} {y + 1.1}L{x + 0.4} {y + 1}"
-    return shape(fist, skin, 0.5) + line(fingers, INK, 0.35)
+    fist = (
+        "M-2.6 -1.8C-1 -2.8 1.8 -2.8 2.4 -1.4C3 0.6 2 2.6 0 2.6C-2.2 2.6 -3 0.4 -2.6 -1.8Z"
+    )
+    fingers = "M-2.4 -0.3L0.6 -0.4M-2.3 1.1L0.4 1"
+    drawn = shape(fist, skin, 0.5) + line(fingers, INK, 0.35)
+    return group(drawn, f"translate({num(x)} {num(y)})")
 
 
 # --- what the right hand holds, about the upright line x = 50 ---
@@ -115,10 +117,14 @@ def stem(p):
 
 
 def lily(p):
-    return stem(p) + shape("M49.6 21.6C45.4 20 44.4 15.4 45.2 11.6C47 12.8 48.2 14 48.6 15.4"
-                           "C48.8 12.6 49.2 10.8 50 9.4"
-                           "C50.8 10.8 51.2 12.6 51.4 15.4C51.8 14 53 12.8 54.8 11.6C55.2 15.4 54 20 49.6 21.6Z", "#f4f7ff", 0.5) + \
-        line("M48.6 15.4L49.4 19.6M51.4 15.4L50.2 19.6", p.main, 0.6) + circle(50, 15.2, 0.8, GOLD)
+    bloom = (
+        "M49.6 21.6C45.4 20 44.4 15.4 45.2 11.6C47 12.8 48.2 14 48.6 15.4"
+        "C48.8 12.6 49.2 10.8 50 9.4C50.8 10.8 51.2 12.6 51.4 15.4C51.8 14 53 12.8 54.8 11.6"
+        "C55.2 15.4 54 20 49.6 21.6Z"
+    )
+    return (stem(p) + shape(bloom, "#f4f7ff", 0.5)
+            + line("M48.6 15.4L49.4 19.6M51.4 15.4L50.2 19.6", p.main, 0.6)
+            + circle(50, 15.2, 0.8, GOLD))
 
 
 def rose(p):
@@ -195,8 +201,8 @@ def king_dress(p):
     ermine = ("M29 31.6L25 33.2C21.8 37.6 20.2 43 19.8 50.6L25.6 49.2C26 44 28.4 40 34.5 37"
               "C39.4 39.6 41.8 42.4 42.8 45.2L48.2 44C47.6 40.4 46.4 36.6 44 33.2L40 31.6Z")
     tunic = "M34.5 36C28.6 39.4 25.6 44 25.4 49.4L43 45.2C42 42 39.6 39 34.5 36Z"
-    return (shape(TORSO, p.main) + line("M15.4 40C14.6 44 14.6 48 15 52M18 38.4"
-                                        "C17 42 16.8 47 17 51.6", p.second, 0.8)
+    folds = "M15.4 40C14.6 44 14.6 48 15 52M18 38.4C17 42 16.8 47 17 51.6"
+    return (shape(TORSO, p.main) + line(folds, p.second, 0.8)
             + shape(tunic, p.second) + line("M34.5 40L34.5 48", p.deep, 0.6)
             + "".join(circle(34.5, y, 0.9, p.deep) for y in (42.2, 45.2))
             + shape(ermine, "#fffdf6") + path(spots, INK))
@@ -260,22 +266,19 @@ def king_head(p, suit):
     hair = shape(locks, p.hair) + line(curls, "#fff", 0.35)
     beard_lines = "M34.5 31L34.5 36M31.8 31.4L32.6 35M37.2 31.4L36.4 35"
     face = shape(FACE, p.skin) + shape(BEARDS[suit], p.hair) + line(beard_lines, "#ffffff", 0.3)
-    return hair + mirrored(hair, 34.5) + face + features("#9a5a3c", 30, 0) + shape(moustache,
-                                                                                   p.hair,
-                                                                                   0.4) + crown(p)
+    return (hair + mirrored(hair, 34.5) + face + features("#9a5a3c", 30)
+            + shape(moustache, p.hair, 0.4) + crown(p))
 
 
 def crown(p):
     lining = "M27.6 17L27.4 12C30 9.6 39 9.6 41.6 12L41.4 17Z"
     gold = ("M27.2 19.6L25 9.8L29.6 13.6L31.2 9.4L34.5 13L37.8 9.4L39.4 13.6L44 9.8L41.8 19.6"
             "C38 21.2 31 21.2 27.2 19.6Z")
-    tips = "".join(circle(x, y, 1, p.jewel, INK, 0.4) for x,
-                   y in ((25, 9.4), (31.2, 8.9), (37.8, 8.9), (44, 9.4)))
+    tips = "".join(circle(x, y, 1, p.jewel, INK, 0.4)
+                   for x, y in ((25, 9.4), (31.2, 8.9), (37.8, 8.9), (44, 9.4)))
     band = line("M27 17C31 18.4 38 18.4 42 17", p.deep, 0.6)
-    gems = circle(34.5, 16, 1.2, p.jewel, INK, 0.4) + circle(30, 15.6, 0.8, p.jewel) + circle(39,
-                                                                                              15.6,
-                                                                                              0.8,
-                                                                                              p.jewel)
+    gems = (circle(34.5, 16, 1.2, p.jewel, INK, 0.4) + circle(30, 15.6, 0.8, p.jewel)
+            + circle(39, 15.6, 0.8, p.jewel))
     return shape(lining, p.main) + shape(gold, GOLD) + band + gems + tips
 
 
@@ -288,32 +291,32 @@ def queen_back_hair(p):
     return shape(hair, p.hair) + line(waves, "#ffffff", 0.3)
 
 
-def queen_head(p, suit):
+def queen_head(p):
     face = "M28.8 19C28.2 26 30.4 31.6 34.5 32.8C38.6 31.6 40.8 26 40.2 19Z"
     parting = (
         "M34.5 14.4C29.4 14.6 27.4 19 27.6 25C29.4 23.4 33 21.4 34.5 17.4C36 21.4 39.6 23.4 41.4 25"
         "C41.6 19 39.6 14.6 34.5 14.4Z"
     )
-    blush = circle(30.4, 26, 1.2, "#e8657a", extra=' fill-opacity="0.45"') + \
-        circle(38.6, 26, 1.2, "#e8657a", extra=' fill-opacity="0.45"')
+    blush = "".join(circle(x, 26, 1.2, "#e8657a", extra=' fill-opacity="0.45"')
+                    for x in (30.4, 38.6))
     earrings = circle(28, 28.4, 0.9, GOLD, INK, 0.35) + circle(41, 28.4, 0.9, GOLD, INK, 0.35)
-    return shape(face, p.skin) + blush + features("#9a5a3c", 29.2, -0.1) + shape(parting,
-                                                                                 p.hair) + earrings + tiara(p)
+    return (shape(face, p.skin) + blush + features("#9a5a3c", 29.2, -0.1)
+            + shape(parting, p.hair) + earrings + tiara(p))
 
 
 def tiara(p):
     gold = ("M27.6 17.4C29 15 31.4 13.8 34.5 13.6C37.6 13.8 40 15 41.4 17.4"
-            "C42 14.6 42.4 12.6 43 10.8C41 11.6 39.6 12 38.4 12.2"
-            "C37 10.8 35.6 9.4 34.5 7.4C33.4 9.4 32 10.8 30.6 12.2C29.4 12 28 11.6 26 10.8C26.6 12.6 27 14.6 27.6 17.4Z")
-    pearls = "".join(circle(x, y, 0.85, "#fffdf6", INK, 0.35) for x,
-                     y in ((26, 10.6), (30.6, 11.8), (38.4, 11.8), (43, 10.6)))
+            "C42 14.6 42.4 12.6 43 10.8C41 11.6 39.6 12 38.4 12.2C37 10.8 35.6 9.4 34.5 7.4"
+            "C33.4 9.4 32 10.8 30.6 12.2C29.4 12 28 11.6 26 10.8C26.6 12.6 27 14.6 27.6 17.4Z")
+    pearls = "".join(circle(x, y, 0.85, "#fffdf6", INK, 0.35)
+                     for x, y in ((26, 10.6), (30.6, 11.8), (38.4, 11.8), (43, 10.6)))
     return shape(gold, GOLD) + circle(34.5, 11.4, 1.3, p.jewel, INK, 0.4) + pearls
 
 
-def jack_head(p, suit):
+def jack_head(p):
     bob = (
-        "M28.6 17C25.2 18 24.8 22 25 26C25.2 29.4 24.6 30.6 23.8 31.8C26.4 33 29 32.2 30.2 30L30 22"
-        "Z"
+        "M28.6 17C25.2 18 24.8 22 25 26C25.2 29.4 24.6 30.6 23.8 31.8"
+        "C26.4 33 29 32.2 30.2 30L30 22Z"
     )
     bob_side = shape(bob, p.hair)
     fringe = (
@@ -321,8 +324,7 @@ def jack_head(p, suit):
         "C28.6 21 28 20 28 18Z"
     )
     return (bob_side + mirrored(bob_side, 34.5) + shape(FACE, p.skin)
-            + features("#9a5a3c", 29.4, 0.2)
-            + shape(fringe, p.hair, 0.4) + cap(p))
+            + features("#9a5a3c", 29.4, 0.2) + shape(fringe, p.hair, 0.4) + cap(p))
 
 
 def cap(p):
@@ -347,10 +349,10 @@ def half_figure(rank, suit):
         body, head = king_dress(p), king_head(p, suit)
         sleeve = p.main
     elif rank == 12:
-        body, head = queen_back_hair(p) + queen_dress(p), queen_head(p, suit)
+        body, head = queen_back_hair(p) + queen_dress(p), queen_head(p)
         sleeve = p.second
     else:
-        body, head = jack_dress(p), jack_head(p, suit)
+        body, head = jack_dress(p), jack_head(p)
         sleeve = p.second
     return body + head + arm(sleeve, p) + HELD[(rank, suit)](p) + hand(50, 37.2, p.skin)
 
@@ -361,19 +363,18 @@ def sash(p):
     marks = "".join(
         path(f"M{x - 2.2} {y}L{x} {y - 1.5}L{x + 2.2} {y}L{x} {y + 1.5}Z", p.deep)
         for x, y in ((MIDDLE_X + d, MIDDLE_Y - d * 0.2298) for d in (-16.5, -8.25, 8.25, 16.5)))
-    return shape(band, GOLD, 0.6) + marks + circle(34.5, 47, 2.3, p.jewel, INK, 0.5) + circle(34.5,
-                                                                                              47, 1,
-                                                                                              "#fff")
+    buckle = circle(34.5, 47, 2.3, p.jewel, INK, 0.5) + circle(34.5, 47, 1, "#fff")
+    return shape(band, GOLD, 0.6) + marks + buckle
 
 
 def court(rank, suit):
     """Body and shared definitions of a court card; rank 11, 12 or 13."""
     p = PALETTES[suit]
     half = half_figure(rank, suit) + pip(suit, 19.4, 13.4, 9.4)
-    frame = round_box(0.9, 0.9, 67.2, 92.2, 4.6) + round_box(LEFT, TOP, RIGHT - LEFT, BOTTOM - TOP,
-                                                             1.6)
-    body = (rect(LEFT, TOP, RIGHT - LEFT, BOTTOM - TOP, 1.6, p.paper) + use("h")
-            + turned(use("h"), 34.5, 47)
-            + sash(p) + path(frame, FACE_PAPER, extra=' fill-rule="evenodd"')
-            + rect(LEFT, TOP, RIGHT - LEFT, BOTTOM - TOP, 1.6, stroke=COLOURS[suit], line=0.9))
-    return body, f'<g id="h">{half}</g>'
+    window = (LEFT, TOP, RIGHT - LEFT, BOTTOM - TOP, 1.6)
+    frame = round_box(0.9, 0.9, 67.2, 92.2, 4.6) + round_box(*window)
+    figures = use("half") + turned(use("half"), MIDDLE_X, MIDDLE_Y) + sash(p)
+    body = (rect(*window, p.paper) + figures
+            + path(frame, FACE_PAPER, extra=' fill-rule="evenodd"')
+            + rect(*window, stroke=COLOURS[suit], line=0.9))
+    return body, group(half, extra=' id="half"')

@@ -36,13 +36,13 @@ def scrolls(colour):
     """Two curling leaves above an ace; the same turned stand below it."""
     curl = (
         "M34.5 19C30 19 27.5 16.8 24.8 16.8C22.6 16.8 21.4 18.2 21.4 19.7"
-        "C21.4 21 22.4 21.8 23.5 21.8"
-        "C24.5 21.8 25.1 21.1 25.1 20.3M34.5 19C39 19 41.5 16.8 44.2 16.8C46.4 16.8 47.6 18.2 47.6 19.7"
+        "C21.4 21 22.4 21.8 23.5 21.8C24.5 21.8 25.1 21.1 25.1 20.3"
+        "M34.5 19C39 19 41.5 16.8 44.2 16.8C46.4 16.8 47.6 18.2 47.6 19.7"
         "C47.6 21 46.6 21.8 45.5 21.8C44.5 21.8 43.9 21.1 43.9 20.3"
     )
     leaf = "M34.5 12C36.6 14.4 36.6 16.6 34.5 19C32.4 16.6 32.4 14.4 34.5 12Z"
-    return path(curl, stroke=colour, width=0.9, extra=' stroke-linecap="round"') + path(leaf,
-                                                                                        colour)
+    stem = path(curl, stroke=colour, width=0.9, extra=' stroke-linecap="round"')
+    return stem + path(leaf, colour)
 
 
 def plain_ace(suit):

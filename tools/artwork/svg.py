@@ -20,9 +20,10 @@ def short(data):
 
 
 def path(data, fill="none", stroke=None, width=0.55, extra=""):
-    """One path; without a stroke colour it has no outline."""
+    """One path; without a stroke colour it has no outline, with an empty fill it inherits one."""
     line = f' stroke="{stroke}" stroke-width="{num(width)}"' if stroke else ""
-    return f'<path d="{short(data)}" fill="{fill}"{line}{extra}/>'
+    paint = f' fill="{fill}"' if fill else ""
+    return f'<path d="{short(data)}"{paint}{line}{extra}/>'
 
 
 def circle(x, y, radius, fill, stroke=None, width=0.55, extra=""):
