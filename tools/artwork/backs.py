@@ -237,8 +237,8 @@ FLAMES_FRONT = (
 
 def hot_scene():
     night = rect(3, 3, 63, 88, 0, "url(#dusk)")
-    sparks = twinkle(((10, 18, 1.8), (58, 14, 1.9), (20, 11, 1.4)), "#ffc857") + specks(
-        ((49, 9), (14, 9), (62, 28), (7, 32), (36, 8), (25, 20), (54, 22), (42, 6)), 1.2,
+    sparks = twinkle(((10, 18, 1.8), (58, 14, 1.9)), "#ffc857") + specks(
+        ((49, 9), (14, 9), (62, 28), (7, 32), (36, 8), (20, 12), (54, 22)), 1.2,
         "#ffc857")
     cards = (small_card("S", 32, 74, -27) + small_card("H", 34.5, 72, 0)
              + small_card("C", 37, 74, 27))
@@ -277,10 +277,12 @@ def framed(scene, width, height, colour):
 
 
 def edges(right, below):
-    """The rims of the cards under the top one, one pixel to the right each."""
-    layers = "".join(f'<use xlink:href="#rim" x="{i}" y="{below * i / right:.1f}"/>'
-                     for i in range(right, 0, -1))
-    return group(layers, extra=' fill="#fffdf4" stroke="#857e70" stroke-width=".42"')
+    """The rims of the cards under the top one, one pixel to the right each, light and dark."""
+    layers = ""
+    for i in range(right, 0, -1):
+        paint = ' stroke="#5f594e"' if i == right else ' fill="#c9c1ae"' if i % 2 else ""
+        layers += f'<use xlink:href="#rim" x="{i}" y="{below * i / right:.1f}"{paint}/>'
+    return group(layers, extra=' fill="#fffdf4" stroke="#857e70" stroke-width=".5"')
 
 
 def rim(width, height):
