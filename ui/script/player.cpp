@@ -17,9 +17,11 @@ bool IsIn(Kind kind, std::initializer_list<Kind> kinds) {
   return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
 }
 
+/// The place that the command names, or the middle; only on a surface does it count.
 Point PlaceOn(const Control& control, const Command& command) {
   const Rect place = control.Place();
-  if (command.Arguments() == 1) return {place.w / 2, place.h / 2};
+  if (command.Arguments() == 1 || control.GetKind() != Kind::Surface)
+    return {place.w / 2, place.h / 2};
   return {static_cast<int>(TakeNumber(command.words[2], 0, std::max(0, place.w - 1))),
           static_cast<int>(TakeNumber(command.words[3], 0, std::max(0, place.h - 1)))};
 }
