@@ -75,10 +75,13 @@ Size Window::OuterFor(Size inner) const {
 bool Window::Unload() {
   if (unloading_ || !open_) return !open_;
   if (!QueryClose() || unloading_ || !open_) return !open_;
-  unloading_ = true;
+  // Also when one of the last acts fails: the player must be able to try again.
+  struct Mark {
+    bool& set;
+    ~Mark() { set = false; }
+  } mark{unloading_ = true};
   Unloading();
   platform_.Close(*this);
-  unloading_ = false;
   return true;
 }
 

@@ -599,6 +599,18 @@ TEST(NoLineDoesHarm) {
   CHECK_EQ(refused, 5 * 12 + 7);
 }
 
+TEST(AStormOfBoxesIsSurvived) {
+  std::string commands = "click cmdStorm\n", waits;
+  for (int i = 0; i < 500; ++i) waits += "wait 10\n";
+  for (int i = 0; i < 500; ++i) commands += "answer ok\n";
+  std::istringstream answers(Answers(waits + commands + waits));
+  int answered = 0;
+  for (std::string line; std::getline(answers, line);) {
+    if (line == "ok" || line.starts_with("no: ")) ++answered;
+  }
+  CHECK_EQ(answered, 1 + 500 + 1 + 500 + 500);
+}
+
 TEST(TheCommandLineIsTakenApart) {
   using ui::script::ScriptOptions;
   const auto options = ScriptOptions::Parse(

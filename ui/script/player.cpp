@@ -41,7 +41,7 @@ char32_t TakeLetter(const Word& word) {
   const std::string& text = TakeText(word);
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const Refused refusal{QuoteShort(text) + " is not one letter"};
-  if (text.empty() || byte(0) < ' ') throw refusal;
+  if (text.empty() || byte(0) < ' ' || (byte(0) >= 0x7F && byte(0) < 0xC2)) throw refusal;
   const std::size_t size = byte(0) < 0x80 ? 1 : byte(0) < 0xE0 ? 2 : byte(0) < 0xF0 ? 3 : 4;
   if (text.size() != size) throw refusal;
   if (size == 1) return byte(0);
