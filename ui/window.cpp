@@ -77,9 +77,11 @@ bool Window::Unload() {
   if (!QueryClose() || unloading_ || !open_) return !open_;
   // Also when one of the last acts fails: the player must be able to try again.
   struct Mark {
-    bool& set;
-    ~Mark() { set = false; }
-  } mark{unloading_ = true};
+    explicit Mark(bool& flag) : flag(flag) { flag = true; }
+    ~Mark() { flag = false; }
+    bool& flag;
+  };
+  const Mark mark(unloading_);
   Unloading();
   platform_.Close(*this);
   return true;
