@@ -61,6 +61,11 @@ void Picture::Show(std::string_view key) {
   key_ = std::string(key);
 }
 
+void Picture::ShowArtwork(std::string artwork, std::string key) {
+  artwork_ = std::move(artwork);
+  key_ = std::move(key);
+}
+
 void Surface::Add(const Stroke& stroke) {
   drawing_.push_back(stroke);
   PropertyChanged(&drawing_);

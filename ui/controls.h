@@ -140,6 +140,8 @@ class Picture : public Control {
   /// Shows the store's picture of this key (blanks round it don't count) as it is now: when the key
   /// moves to another picture later, this one stays till the next call. Empty shows nothing.
   void Show(std::string_view key);
+  /// Shows an artwork by its own name, under a key or none.
+  void ShowArtwork(std::string artwork, std::string key);
   const std::string& Key() const { return key_(); }
   /// The artwork behind the key, by the name that the store gave it.
   const std::string& Artwork() const { return artwork_(); }

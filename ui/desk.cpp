@@ -38,6 +38,7 @@ void Desk::BuryDead() {
 }
 
 void Desk::UserClick(Control& control) {
+  if (control.Owner().DropsInput) return;
   switch (control.GetKind()) {
     case Kind::Check:
       UserCheck(static_cast<Check&>(control), !static_cast<Check&>(control).Checked());
@@ -54,6 +55,7 @@ void Desk::UserClick(Control& control) {
 }
 
 void Desk::UserPress(Surface& surface, int x, int y) {
+  if (surface.Owner().DropsInput) return;
   UserMove(surface, x, y);
   if (surface.OnMouseDown) Run([&] { surface.OnMouseDown(x, y); });
   if (!surface.Owner().IsOpen()) return;
@@ -61,32 +63,40 @@ void Desk::UserPress(Surface& surface, int x, int y) {
 }
 
 void Desk::UserMove(Control& control) {
+  if (control.Owner().DropsInput) return;
+
   Run(control.OnMouseMove);
 }
 
 void Desk::UserMove(Surface& surface, int x, int y) {
+  if (surface.Owner().DropsInput) return;
   if (surface.OnMouseMoveAt) Run([&] { surface.OnMouseMoveAt(x, y); });
 }
 
 void Desk::UserType(Field& field, const std::string& text) {
+  if (field.Owner().DropsInput) return;
   UserFocus(field);
   Run([&] { field.Text = text; });
 }
 
 void Desk::UserChoose(List& list, int index) {
+  if (list.Owner().DropsInput) return;
   list.Index = index;
   Run(list.OnClick);
 }
 
 void Desk::UserCheck(Check& check, bool checked) {
+  if (check.Owner().DropsInput) return;
   Run([&] { check.Checked = checked; });
 }
 
 void Desk::UserFocus(Control& control) {
+  if (control.Owner().DropsInput) return;
   Run([&] { SetFocus(control); });
 }
 
 void Desk::UserClose(Window& window) {
+  if (window.DropsInput) return;
   Run([&] { window.Unload(); });
 }
 

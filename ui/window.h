@@ -50,6 +50,9 @@ class Window : public Changeable {
   Size OuterFor(Size inner) const;
 
   bool Resizable = true;
+  /// While set, what the player does with this window is served and has no effect; its size and
+  /// state still follow.
+  bool DropsInput = false;
   bool IsOpen() const { return open_; }
   bool IsModal() const { return modal_; }
   bool IsHidden() const { return hidden_; }
@@ -57,6 +60,9 @@ class Window : public Changeable {
   /// How the controls of a dialog are laid out; empty for a window that places them itself.
   const Form& Layout() const { return layout_; }
 
+  /// What happens before the window is first shown; may ask and tell the player. Called once, by
+  /// whoever shows the window. What it throws means that the window can't be shown.
+  virtual void Load() {}
   virtual void Activate() {}   ///< shown, or shown again
   virtual void Resized() {}    ///< after each change of size or state
   virtual void MouseMove() {}  ///< the pointer moves over the window beside its controls
