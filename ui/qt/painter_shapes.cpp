@@ -1,6 +1,5 @@
 // Boxes, lines, frames and the table itself.
 #include <QLinearGradient>
-#include <QPixmapCache>
 
 #include "ui/qt/artwork.h"
 #include "ui/qt/ground.h"
@@ -15,18 +14,13 @@ constexpr int Shadow = 6;
 constexpr int EdgeShade = 28;
 
 void PaintSunken(QPainter& painter, const QRectF& box) {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(255, 255, 255, 60));
-  painter.drawRoundedRect(box.translated(0, 1), 4, 4);
-  painter.setPen(QPen(QColor(0, 0, 0, 120), 1));
-  painter.setBrush(QColor(tone::Box));
-  painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-  QLinearGradient depth(box.topLeft(), box.topLeft() + QPointF(0, 6));
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.fillRect(box, QColor(tone::Wood).darker(140));
+  painter.fillRect(box.adjusted(1, 1, 0, 0), QColor(tone::Box));
+  QLinearGradient depth(box.topLeft(), box.topLeft() + QPointF(0, 7));
   depth.setColorAt(0, QColor(60, 45, 10, 90));
   depth.setColorAt(1, QColor(60, 45, 10, 0));
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(depth);
-  painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), 3, 3);
+  painter.fillRect(box.adjusted(1, 1, -1, -1), depth);
 }
 
 void PaintShadow(QPainter& painter, const QRectF& around, double radius) {
@@ -47,12 +41,12 @@ void PaintBoard(QPainter& painter, const QRectF& board) {
 void PaintPanel(QPainter& painter, const QRectF& panel) {
   PaintShadow(painter, panel, 8);
   QLinearGradient depth(panel.topLeft(), panel.bottomLeft());
-  depth.setColorAt(0, QColor(tone::Panel).lighter(125));
-  depth.setColorAt(1, QColor(tone::Panel).darker(120));
+  depth.setColorAt(0, QColor(tone::Panel).lighter(107));
+  depth.setColorAt(1, QColor(tone::Panel).darker(108));
   painter.setPen(QPen(QColor(tone::Gold), 2));
   painter.setBrush(depth);
   painter.drawRoundedRect(panel.adjusted(1, 1, -1, -1), 8, 8);
-  painter.setPen(QPen(QColor(tone::Gold).darker(140), 1));
+  painter.setPen(QPen(QColor(tone::Gold).darker(115), 1));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(panel.adjusted(5.5, 5.5, -5.5, -5.5), 5, 5);
 }

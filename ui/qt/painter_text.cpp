@@ -1,6 +1,5 @@
 // Labels: letters that read well on whatever they stand on.
 #include <QFontMetricsF>
-#include <QPainterPath>
 #include <QStringList>
 #include <algorithm>
 
@@ -16,26 +15,25 @@ constexpr double ReadsOnLight = 3.0;
 constexpr double SmallestShare = 0.85;  // a text is not shrunk further, but stands over its place
 constexpr int MessageSize = 14;         // points; larger texts on the table get a plaque
 constexpr QMarginsF PlaqueMargins{9, 3, 9, 4};
+constexpr QMarginsF LampMargins{6, 1, 6, 1};
 
 /// How the letters are made to stand out.
 struct Ink {
+  enum class Under { Nothing, Plaque, Lamp };
   QColor color;
-  QColor halo;          ///< invalid for none
-  bool plaque = false;  ///< a light plate lies under the letters
+  Under under = Under::Nothing;  ///< a light plate, or a dark one on which bright letters glow
 };
 
 Ink InkOn(Ground ground, const Label& label) {
   const QColor color = ColorOf(label.TextColor());
-  const bool big = label.FontSize() >= MessageSize;
-  const bool dark = ground == Ground::Felt || ground == Ground::Panel;
-  if (!dark) {
-    if (Contrast(color, ColorOf(ground)) >= ReadsOnLight) return {color, {}};
-    return {color, QColor::fromHsvF(color.hsvHueF() < 0 ? 0 : color.hsvHueF(),
-                                    color.hsvSaturationF(), 0.32)};
+  if (ground != Ground::Felt) {
+    const bool readable = Contrast(color, ColorOf(ground)) >= ReadsOnLight;
+    return {color, readable ? Ink::Under::Nothing : Ink::Under::Lamp};
   }
-  if (label.TextColor() == Black && (ground == Ground::Panel || !big)) return {tone::Cream, {}};
-  if (!big && Contrast(color, ColorOf(ground)) >= ReadsWell) return {color, {}};
-  return {color, {}, true};
+  const bool big = label.FontSize() >= MessageSize;
+  if (label.TextColor() == Black && !big) return {tone::Cream};
+  const bool readable = !big && Contrast(color, ColorOf(ground)) >= ReadsWell;
+  return {color, readable ? Ink::Under::Nothing : Ink::Under::Plaque};
 }
 
 QStringList BreakLines(const QString& text, const QFontMetricsF& metrics, double width) {
@@ -124,17 +122,10 @@ void PaintPlaque(QPainter& painter, const QRectF& around) {
   painter.restore();
 }
 
-void PaintLine(QPainter& painter, QPointF at, const QString& text, const QFont& font,
-               const Ink& ink) {
-  if (ink.halo.isValid()) {
-    QPainterPath outline;
-    outline.addText(at, font, text);
-    painter.strokePath(outline, QPen(ink.halo, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.fillPath(outline, ink.color);
-    return;
-  }
-  painter.setPen(ink.color);
-  painter.drawText(at, text);
+void PaintLamp(QPainter& painter, const QRectF& around) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(tone::Lamp));
+  painter.drawRoundedRect(around.marginsAdded(LampMargins), 4, 4);
 }
 
 bool HasText(const Label& label) {
@@ -153,13 +144,15 @@ void PaintLabel(QPainter& painter, const Label& label, const Scene& scene) {
   const Ink ink = InkOn(GroundUnder(label, scene.order), label);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  if (ink.plaque) PaintPlaque(painter, lines.area);
+  if (ink.under == Ink::Under::Plaque) PaintPlaque(painter, lines.area);
+  if (ink.under == Ink::Under::Lamp) PaintLamp(painter, lines.area);
   painter.setFont(lines.font);
+  painter.setPen(ink.color);
   const QFontMetricsF metrics(lines.font);
   double baseline = lines.area.top() + lines.ascent;
   for (const QString& text : lines.texts) {
     const double x = LeftOf(label.Alignment(), lines.area, metrics.horizontalAdvance(text));
-    PaintLine(painter, {x, baseline}, text, lines.font, ink);
+    painter.drawText(QPointF(x, baseline), text);
     baseline += lines.height;
   }
   painter.restore();

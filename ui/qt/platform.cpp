@@ -32,6 +32,12 @@ void WakeForHeldInput() {
 
 }  // namespace
 
+bool HasDisplay() {
+  return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
 /// One of the three situations, as long as it lasts.
 class QtPlatform::PumpScope {
  public:
@@ -61,6 +67,7 @@ QtPlatform::QtPlatform(int& argc, char** argv, Installation installation,
     : clock_(std::move(clock)) {
   QApplication::setStyle(MakeStyle());
   application_ = std::make_unique<QApplication>(argc, argv);
+  QApplication::setPalette(PaperPalette());
   QApplication::setQuitOnLastWindowClosed(false);
   artwork_ = std::make_unique<Artwork>(ToQt(installation.pictures));
   timer_ = std::make_unique<QTimer>();

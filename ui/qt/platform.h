@@ -27,6 +27,9 @@ struct Installation {
   std::string pictures;  ///< directory of the store's artwork, an SVG file each
 };
 
+/// Whether there is a display to open windows on.
+bool HasDisplay();
+
 /// One exists in a program. Windows are mirrored as long as they are open.
 ///
 /// The program's handlers run in one of three situations. Free: an event loop delivers input and
