@@ -116,6 +116,8 @@ class Table : public Window {
     optRed.SetContainer(&fraColor);
     optBlue.SetContainer(&fraColor);
     barLeft.Value = 40;
+    mnuSounds.OnClick = Bind(this, &Table::mnuSounds_Click);
+    mnuClose.OnClick = Bind(this, &Table::mnuClose_Click);
     frmSplash.Visible = std::getenv("DEMO_SPLASH") != nullptr;
     mnuSounds.Checked = true;
     mnuMore.StartsGroup = true;

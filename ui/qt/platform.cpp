@@ -12,6 +12,7 @@
 
 #include "ui/qt/artwork.h"
 #include "ui/qt/boxes.h"
+#include "ui/qt/mnemonics.h"
 #include "ui/qt/qt_window.h"
 #include "ui/qt/services.h"
 #include "ui/qt/sound.h"
@@ -69,6 +70,8 @@ QtPlatform::QtPlatform(int& argc, char** argv, Installation installation,
   application_ = std::make_unique<QApplication>(argc, argv);
   QApplication::setPalette(PaperPalette());
   QApplication::setQuitOnLastWindowClosed(false);
+  mnemonics_ = std::make_unique<InstantMnemonics>();
+  application_->installEventFilter(mnemonics_.get());
   artwork_ = std::make_unique<Artwork>(ToQt(installation.pictures));
   timer_ = std::make_unique<QTimer>();
   timer_->setSingleShot(true);

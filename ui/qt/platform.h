@@ -18,6 +18,7 @@ class QTimer;
 namespace ui::qt {
 
 class Artwork;
+class InstantMnemonics;
 class Mail;
 class QtWindow;
 class Sound;
@@ -111,6 +112,7 @@ class QtPlatform : public Desk {
 
   std::unique_ptr<Clock> clock_;
   std::unique_ptr<QApplication> application_;
+  std::unique_ptr<InstantMnemonics> mnemonics_;
   std::unique_ptr<Artwork> artwork_;
   std::unique_ptr<QTimer> timer_;  // goes off when the first of the program's timers falls due
   std::map<const Window*, std::unique_ptr<QtWindow>> views_;
