@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "core/cards/deck.h"
 #include "games/ostrel/settings.h"
@@ -19,21 +19,29 @@ inline constexpr int Towers = 3;         ///< their peaks are the positions 0 to
 /// What a click on a field card gave. A click that is no move gives nothing.
 struct CardPlayed {
   bool legal = false;
-  std::int16_t points = 0;       ///< what the card has earned
-  int tower = 0;                 ///< the tower that it completed, 1 to 3; 0 for none
-  std::vector<int> turned = {};  ///< positions of the cards that it turned face up
-  bool lastTower = false;        ///< all towers are complete: the round is over
+  std::int16_t points = 0;  ///< what the card has earned
+  bool peak = false;        ///< it has completed a tower
+  bool lastPeak = false;    ///< all towers are complete: the round is over
 };
 
 /// What follows when a round has been paid.
 enum class AfterRound { RoundTwo, BonusRound, GameOver };
 
-/// State and moves of a game. Operations may come in any order; a position outside of the field is
-/// one without a card. Before the first deal there are no cards at all.
+/// State and moves of a game; the score itself is the owner's. Operations may come in any order; a
+/// position outside of the field is one without a card.
 class Rules {
  public:
   /// The values are the caller's and may change between two moves.
   explicit Rules(const Scoring& scoring) : scoring_(scoring) {}
+
+  std::int16_t StackIndex = FieldSize;  ///< position of the card that the next draw turns
+  std::int16_t UpRank = 0;              ///< rank of the up card
+  std::int16_t CurrentRun = 0;          ///< field cards played since the last draw
+  std::int16_t HighRun = 0;             ///< the longest run of all games
+  std::int16_t CardValue = 0;           ///< points of the card last played in this run
+  std::int16_t CardsLeft = 0;           ///< the count shown beside the stack
+  std::int32_t TowersDone = 0;          ///< towers completed in this round and not yet paid
+  bool NewHighRun = false;              ///< the record was beaten in this round
 
   void NewGame();
   /// Lays out a shuffled deck; run, card value and the mark of a new record start anew.
@@ -46,58 +54,33 @@ class Rules {
   /// Turns the next card of the stack and ends the run. False if the stack is empty.
   bool DrawCard();
 
-  /// The rank alone: a neighbour of the up card in the circle from Ace to King.
+  /// By rank alone: a neighbour of the up card in the circle from Ace to King.
   bool IsNextInRun(int position) const;
-  bool Holds(int position) const;       ///< a card of the field still lies there
-  bool FaceUp(int position) const;      ///< it does, and no card covers it
-  bool Exposed(int position) const;     ///< no card covers this position
-  bool TowerComplete(int tower) const;  ///< 1 to 3: its peak has been played
+  bool Holds(int position) const { return !CardAt(position).empty(); }
+  bool Exposed(int position) const;  ///< no card covers this position
+  bool FaceUp(int position) const { return Holds(position) && Exposed(position); }
+  bool TowerComplete(int tower) const { return !Holds(tower - 1); }  ///< 1 to 3: its peak is gone
 
   const std::string& CardAt(int position) const;  ///< its key; empty where no card is
   const std::string& UpCard() const { return upCard_; }
   /// Picture key of the stack, which shows how much is left of it.
   std::string_view StackPicture() const;
+  std::int32_t NextCardValue() const { return (CurrentRun + 1) * scoring_.CardBonus; }
 
-  // --- the end of a round ---------------------------------------------------------------------
-
-  void EndRun() { currentRun_ = 0; }
-  int TakeTowers();       ///< the towers to be paid, which are then counted no more
-  bool TakeNewHighRun();  ///< whether a record is to be paid, which then is none any more
-  /// `roundNumber` is the round's that would come next; a score of BonusScore earns the bonus
-  /// round.
+  /// The towers to be paid, which are then counted no more.
+  int TakeTowers() { return std::exchange(TowersDone, 0); }
+  /// Whether a record is to be paid, which then is none any more.
+  bool TakeNewHighRun() { return std::exchange(NewHighRun, false); }
+  /// `roundNumber` is that of the round that would come next.
   AfterRound Following(int roundNumber, std::int32_t score) const;
 
-  // --- the counters ---------------------------------------------------------------------------
-
-  std::int16_t StackIndex() const { return stackIndex_; }
-  std::int16_t UpRank() const { return upRank_; }
-  std::int16_t CurrentRun() const { return currentRun_; }
-  std::int16_t CardValue() const { return cardValue_; }
-  std::int16_t CardsLeft() const { return cardsLeft_; }
-  std::int32_t TowersDone() const { return towersDone_; }
-  bool NewHighRun() const { return newHighRun_; }
-  std::int32_t NextCardValue() const;  ///< points for the next card of this run
-
-  std::int16_t HighRun = 0;  ///< the record, kept between games
-
  private:
-  static constexpr int stackFirst = FieldSize;
-  static constexpr int openingCard = 51;  // the round's first up card, and the stack's last card
-  static constexpr int positions = 53;    // the last is never filled
-
   void SetRun(int run);
-  std::vector<int> UncoveredBy(int position) const;
+  void SetUpCard(const std::string& card);
 
   const Scoring& scoring_;
-  std::array<std::string, positions> fieldCards_;
+  std::array<std::string, 53> FieldCards;  ///< field, stack, the opening card; the last is unused
   std::string upCard_;
-  std::int16_t stackIndex_ = stackFirst;
-  std::int16_t upRank_ = 0;
-  std::int16_t currentRun_ = 0;
-  std::int16_t cardValue_ = 0;
-  std::int16_t cardsLeft_ = 0;
-  std::int32_t towersDone_ = 0;
-  bool newHighRun_ = false;
 };
 
 }  // namespace games::ostrel

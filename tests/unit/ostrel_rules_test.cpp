@@ -1,6 +1,4 @@
 // Tests of Ostrel's rules: covers and legal moves, runs and records, the stack, rounds.
-#include <set>
-
 #include "games/ostrel/rules.h"
 #include "tests/check.h"
 
@@ -45,24 +43,33 @@ TEST(OstrelCardsComeFreeExactlyWhenBothTheirCoversAreGone) {
   CHECK(!rules.PlayCard(17).legal);
   CHECK(!rules.PlayCard(28).legal);
 
-  // From the bottom row upwards each row's cards turn over one by one, and the peaks end it.
-  std::set<int> turned;
-  for (int p = 27; p >= 9; --p) {
-    for (int up : Force(rules, p).turned) CHECK(turned.insert(up).second);
-    CHECK(!rules.Holds(p));
-    CHECK(rules.CardAt(p).empty());
-  }
-  CHECK_EQ(turned.size(), 15u);
-  CHECK(!turned.contains(0));
-
-  // A card in the middle of a tower turns one; the last of two neighbours turns two at once.
-  Rules other(scoring);
-  other.Deal(FivesAndSixes());
-  CHECK(Force(other, 18).turned.empty());
-  CHECK(Force(other, 20).turned.empty());
-  CHECK((Force(other, 19).turned == std::vector<int>{9, 10}));
-  CHECK((Force(other, 9).turned.empty()));
-  CHECK((Force(other, 10).turned == std::vector<int>{3}));
+  // A card turns over with the last of its two covers; one click can turn over two.
+  const auto up = [&] {
+    std::vector<int> positions;
+    for (int p = 0; p < 18; ++p) {
+      if (rules.FaceUp(p)) positions.push_back(p);
+    }
+    return positions;
+  };
+  using Positions = std::vector<int>;
+  Force(rules, 18);
+  Force(rules, 20);
+  CHECK(up().empty());
+  Force(rules, 19);
+  CHECK(up() == Positions({9, 10}));
+  Force(rules, 9);
+  CHECK(up() == Positions({10}));
+  Force(rules, 10);
+  CHECK(up() == Positions({3}));
+  for (int p = 27; p > 20; --p) Force(rules, p);
+  CHECK(up() == Positions({3, 11, 12, 13, 14, 15, 16, 17}));
+  for (int p = 11; p <= 17; ++p) Force(rules, p);
+  CHECK(up() == Positions({3, 4, 5, 6, 7, 8}));
+  for (int p : {4, 5, 7}) Force(rules, p);
+  CHECK(up() == Positions({3, 6, 8}));
+  for (int p : {3, 6, 8}) Force(rules, p);
+  CHECK(up() == Positions({0, 1, 2}));
+  CHECK(rules.CardAt(3).empty());
 }
 
 TEST(OstrelTowersAreCompleteWithTheirPeaksWhateverIsLeft) {
@@ -70,18 +77,15 @@ TEST(OstrelTowersAreCompleteWithTheirPeaksWhateverIsLeft) {
   Rules rules(scoring);
   rules.NewGame();
   rules.Deal(FivesAndSixes());
-  for (int p : {18, 19, 20, 21, 9, 10, 11, 3, 4}) CHECK_EQ(Force(rules, p).tower, 0);
-  CHECK_EQ(Force(rules, 0).tower, 1);
+  for (int p : {18, 19, 20, 21, 9, 10, 11, 3, 4}) CHECK(!Force(rules, p).peak);
+  CHECK(Force(rules, 0).peak);
   CHECK(rules.TowerComplete(1));
   CHECK(!rules.TowerComplete(2));
   for (int p : {24, 25, 26, 27, 15, 16, 17, 7, 8}) Force(rules, p);
-  const CardPlayed third = Force(rules, 2);
-  CHECK_EQ(third.tower, 3);
-  CHECK(third.turned.empty());
-  CHECK(!third.lastTower);
-  CHECK_EQ(rules.TowersDone(), 2);
-  for (int p : {22, 23, 12, 13, 14, 5, 6}) CHECK(!Force(rules, p).lastTower);
-  CHECK(Force(rules, 1).lastTower);
+  CHECK(Force(rules, 2).peak);
+  CHECK_EQ(rules.TowersDone, 2);
+  for (int p : {22, 23, 12, 13, 14, 5, 6}) CHECK(!Force(rules, p).lastPeak);
+  CHECK(Force(rules, 1).lastPeak);
   CHECK_EQ(rules.TakeTowers(), 3);
   CHECK_EQ(rules.TakeTowers(), 0);
 }
@@ -100,16 +104,16 @@ TEST(OstrelRunsGoRoundAceAndKingInBothDirections) {
     CHECK_EQ(rules.NextCardValue(), 100 * (p - 17));
     CHECK(rules.IsNextInRun(p));
     points += rules.PlayCard(p).points;
-    CHECK_EQ(rules.UpRank(), run[static_cast<std::size_t>(p - 18)]);
+    CHECK_EQ(rules.UpRank, run[static_cast<std::size_t>(p - 18)]);
   }
   CHECK_EQ(points, 100 * 36);
   CHECK(!rules.CheckForLegalMove(27));  // equal ranks
   CHECK(!rules.CheckForLegalMove(26));  // two away
-  CHECK_EQ(rules.CurrentRun(), 8);      // a refused card leaves the run alone
-  CHECK_EQ(rules.UpRank(), 11);
+  CHECK_EQ(rules.CurrentRun, 8);        // a refused card leaves the run alone
+  CHECK_EQ(rules.UpRank, 11);
 
   CHECK(rules.DrawCard());
-  CHECK_EQ(rules.CurrentRun(), 0);
+  CHECK_EQ(rules.CurrentRun, 0);
   CHECK_EQ(rules.NextCardValue(), 100);
   CHECK_EQ(rules.PlayCard(26).points, 100);
   CHECK(rules.IsNextInRun(9) == false);  // 7 on 9
@@ -134,23 +138,23 @@ TEST(OstrelStackOffersTheOpeningCardLastAndCardsGoOnAfterIt) {
   std::vector<int> stack;
   for (int i = 0; i < 23; ++i) stack.push_back(i % 13 + 1);
   rules.Deal(DeckOf(std::vector<int>(FieldSize, 5), stack, 6));
-  CHECK_EQ(rules.CardsLeft(), 24);
+  CHECK_EQ(rules.CardsLeft, 24);
   CHECK(rules.StackPicture() == "FULL");
   std::string looks;
   for (int i = 0; i < 24; ++i) {
     CHECK(rules.DrawCard());
-    CHECK_EQ(rules.UpRank(), i < 23 ? stack[static_cast<std::size_t>(i)] : 6);
-    CHECK_EQ(rules.CardsLeft(), 23 - i);
+    CHECK_EQ(rules.UpRank, i < 23 ? stack[static_cast<std::size_t>(i)] : 6);
+    CHECK_EQ(rules.CardsLeft, 23 - i);
     looks += rules.StackPicture()[0];
   }
   CHECK_EQ(looks, std::string(6, 'F') + std::string(7, 'H') + std::string(10, 'B') + "E");
   CHECK_EQ(rules.PlayCard(18).points, 100);
   CHECK(rules.PlayCard(19).legal == false);
   CHECK(!rules.DrawCard());
-  CHECK_EQ(rules.CardsLeft(), 0);
-  CHECK_EQ(rules.StackIndex(), 52);
-  CHECK_EQ(rules.UpRank(), 5);
-  CHECK_EQ(rules.CurrentRun(), 0);  // also an empty stack ends the run
+  CHECK_EQ(rules.CardsLeft, 0);
+  CHECK_EQ(rules.StackIndex, 52);
+  CHECK_EQ(rules.UpRank, 5);
+  CHECK_EQ(rules.CurrentRun, 0);  // also an empty stack ends the run
 }
 
 TEST(OstrelRecordsCountOnceARoundAndRunsEndWithTheRound) {
@@ -165,25 +169,23 @@ TEST(OstrelRecordsCountOnceARoundAndRunsEndWithTheRound) {
   };
   rules.HighRun = 3;
   playRun(3);
-  CHECK(!rules.NewHighRun());  // an equal run is no record
+  CHECK(!rules.NewHighRun);  // an equal run is no record
   playRun(5);
-  CHECK(rules.NewHighRun());
+  CHECK(rules.NewHighRun);
   CHECK_EQ(rules.HighRun, 5);
   CHECK(rules.TakeNewHighRun());
   CHECK(!rules.TakeNewHighRun());
   rules.PlayCard(23);
   CHECK(rules.TakeNewHighRun());  // beaten again, paid again
-  rules.EndRun();
-  CHECK_EQ(rules.CurrentRun(), 0);
   playRun(2);
-  CHECK_EQ(rules.CardValue(), 200);
-  CHECK(!rules.NewHighRun());
+  CHECK_EQ(rules.CardValue, 200);
+  CHECK(!rules.NewHighRun);
   rules.HighRun = 0;  // cleared in the midst of a run: the run counts as it goes on
   rules.PlayCard(20);
   CHECK_EQ(rules.HighRun, 3);
   rules.HighRun = -7;  // from a damaged file: no card played is no record
   rules.Deal(deck);
-  CHECK(!rules.NewHighRun());
+  CHECK(!rules.NewHighRun);
   CHECK_EQ(rules.HighRun, 0);
 }
 
