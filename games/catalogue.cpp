@@ -1,6 +1,7 @@
 // The catalogue of games: the one place that names them.
 #include "games/catalogue.h"
 
+#include "games/kestrane/window.h"
 #include "games/quindle/window.h"
 
 namespace games {
@@ -22,6 +23,14 @@ const core::GameEntry Entries[] = {
      175000,
      90,
      Make<quindle::frmQuindle>},
+    {"Kestrane!",
+     "cmdKestrane",
+     "&Kestrane",
+     "Kestrane Hi Score Table ",
+     {50000, 30000, 50000},
+     225000,
+     120,
+     Make<kestrane::frmKestrane>},
 };
 
 }  // namespace

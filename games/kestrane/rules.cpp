@@ -33,28 +33,28 @@ bool AllTaken(const Cards& cards) {
 // --- the board ----------------------------------------------------------------------------------
 
 template <class Self>
-auto* Rules::CardAt(Self& self, Area area, int index) {
-  switch (area) {
+auto* Rules::CardAt(Self& self, Spot spot) {
+  switch (spot.area) {
     case Area::UpCards:
-      return Within(self.upCards_, index);
+      return Within(self.upCards_, spot.index);
     case Area::Storage:
-      return Within(self.tempCards_, index);
+      return Within(self.tempCards_, spot.index);
     case Area::Field:
-      return Within(self.columnCards_, index);
+      return Within(self.columnCards_, spot.index);
     default:
       return Within(self.upCards_, -1);
   }
 }
 
-const std::string& Rules::KeyAt(Area area, int index) const {
+const std::string& Rules::KeyAt(Spot spot) const {
   static const std::string none;
-  const std::string* card = CardAt(*this, area, index);
+  const std::string* card = CardAt(*this, spot);
   return card ? *card : none;
 }
 
 int Rules::TopSlot(int column) const {
   int slot = LastRow + column;
-  while (slot >= 0 && !HasCard(Area::Field, slot)) slot -= Columns;
+  while (slot >= 0 && !HasCard({Area::Field, slot})) slot -= Columns;
   return slot >= 0 ? slot : -1;
 }
 
@@ -70,17 +70,17 @@ std::string_view Rules::StackPicture() const {
 
 Spot Rules::NextLeftOver() const {
   for (int slot = Slots - 1; slot >= 0; --slot) {
-    if (HasCard(Area::Field, slot)) return {Area::Field, slot};
+    if (HasCard({Area::Field, slot})) return {Area::Field, slot};
   }
   for (int spot = Spots - 1; spot >= 0; --spot) {
-    if (HasCard(Area::Storage, spot)) return {Area::Storage, spot};
+    if (HasCard({Area::Storage, spot})) return {Area::Storage, spot};
   }
   return {};
 }
 
 void Rules::TakeOff(Spot spot) {
-  if (std::string* card = CardAt(*this, spot.area, spot.index)) card->clear();
-  if (spot.area == selectedArea_ && spot.index == selectedIndex_) EndSelection();
+  if (std::string* card = CardAt(*this, spot)) card->clear();
+  if (spot == Selected()) EndSelection();
 }
 
 // --- rounds -------------------------------------------------------------------------------------
@@ -105,7 +105,7 @@ void Rules::ClearBoard() {
 
 void Rules::Deal() {
   ClearBoard();
-  for (int i = 0; i < UpCardCount; ++i) *CardAt(*this, Area::UpCards, i) = deck_(i + 1);
+  for (int i = 0; i < UpCardCount; ++i) *CardAt(*this, {Area::UpCards, i}) = deck_(i + 1);
   deckIndex_ = UpCardCount;
 }
 
@@ -117,41 +117,41 @@ void Rules::UpDateDeck() {
 
 // --- selecting and moving -----------------------------------------------------------------------
 
-Answer Rules::AnswerTo(Area area, int index) const {
-  if (!CardAt(*this, area, index)) return Answer::Refused;
-  if (area == Area::UpCards && index != Front) return Answer::Refused;
+Answer Rules::AnswerTo(Spot spot) const {
+  if (!CardAt(*this, spot)) return Answer::Refused;
+  if (spot.area == Area::UpCards && spot.index != Front) return Answer::Refused;
   if (!cardSelected_) {
-    const int first = area == Area::Field ? index % Columns : index;
-    return HasCard(area, first) ? Answer::Select : Answer::Refused;
+    const int first = spot.area == Area::Field ? spot.index % Columns : spot.index;
+    return HasCard({spot.area, first}) ? Answer::Select : Answer::Refused;
   }
-  if (IsSelected(area, index)) return Answer::Cancel;
-  return HasRoom(area, index) ? Answer::Move : Answer::Refused;
+  if (IsSelected(spot)) return Answer::Cancel;
+  return HasRoom(spot) ? Answer::Move : Answer::Refused;
 }
 
-bool Rules::IsSelected(Area area, int index) const {
-  if (area != selectedArea_) return false;
-  return area == Area::Field ? index % Columns == selectedIndex_ % Columns
-                             : index == selectedIndex_;
+bool Rules::IsSelected(Spot spot) const {
+  if (spot.area != selectedArea_) return false;
+  return spot.area == Area::Field ? spot.index % Columns == selectedIndex_ % Columns
+                                  : spot.index == selectedIndex_;
 }
 
-bool Rules::HasRoom(Area area, int index) const {
-  if (area == Area::Field) return !ColumnFull(index % Columns);
-  return area == Area::Storage && !HasCard(area, index);
+bool Rules::HasRoom(Spot spot) const {
+  if (spot.area == Area::Field) return !ColumnFull(spot.index % Columns);
+  return spot.area == Area::Storage && !HasCard(spot);
 }
 
-Answer Rules::Click(Area area, int index) {
-  const Answer answer = AnswerTo(area, index);
-  if (answer == Answer::Select) Select(area, index);
+Answer Rules::Click(Spot spot) {
+  const Answer answer = AnswerTo(spot);
+  if (answer == Answer::Select) Select(spot);
   if (answer == Answer::Cancel) EndSelection();
-  if (answer == Answer::Move) MoveCard(index, area);
+  if (answer == Answer::Move) MoveCard(spot);
   return answer;
 }
 
-void Rules::Select(Area area, int index) {
+void Rules::Select(Spot spot) {
+  if (spot.area == Area::Field) spot.index = TopSlot(spot.index % Columns);
   cardSelected_ = true;
-  selectedArea_ = area;
-  selectedIndex_ =
-      static_cast<std::int16_t>(area == Area::Field ? TopSlot(index % Columns) : index);
+  selectedArea_ = spot.area;
+  selectedIndex_ = static_cast<std::int16_t>(spot.index);
 }
 
 void Rules::EndSelection() {
@@ -160,38 +160,38 @@ void Rules::EndSelection() {
   selectedIndex_ = -1;
 }
 
-void Rules::MoveCard(int& index, Area area) {
-  if (area == Area::Field) {
-    const int top = TopSlot(index % Columns);
-    index = top < 0 ? index % Columns : top + Columns;
+void Rules::MoveCard(Spot& spot) {
+  if (spot.area == Area::Field) {
+    const int column = spot.index % Columns;
+    const int top = TopSlot(column);
+    spot.index = top < 0 ? column : top + Columns;
   }
-  std::string* from = CardAt(*this, selectedArea_, selectedIndex_);
-  std::string* to = CardAt(*this, area, index);
-  *to = std::exchange(*from, "");
+  *CardAt(*this, spot) = std::exchange(*CardAt(*this, Selected()), "");
   if (selectedArea_ == Area::UpCards) UpDateDeck();
   EndSelection();
 }
 
 // --- full columns -------------------------------------------------------------------------------
 
-Find Rules::CheckColumn(int column) {
-  if (column < 0 || column >= Columns || !ColumnFull(column)) return Find::Nothing;
+Made Rules::CheckColumn(int column) {
+  if (column < 0 || column >= Columns || !ColumnFull(column)) return Made::Nothing;
   if (IsTrip(column)) {
     ClearColumn(column);
     ++tripCount_;
-    return Find::Trip;
+    return Made::Trip;
   }
-  if (!IsRun(column)) return Find::Nothing;
+  if (!IsRun(column)) return Made::Nothing;
   const bool flush = CheckFlush(column);
   ClearColumn(column);
   ++runCount_;
-  return flush ? Find::Flush : Find::Run;
+  return flush ? Made::Flush : Made::Run;
 }
 
 std::array<int, 3> Rules::RanksOf(int column) const {
   std::array<int, 3> ranks;
   for (int row = 0; row < 3; ++row) {
-    ranks[static_cast<std::size_t>(row)] = core::RankOf(KeyAt(Area::Field, row * Columns + column));
+    ranks[static_cast<std::size_t>(row)] =
+        core::RankOf(KeyAt({Area::Field, row * Columns + column}));
   }
   return ranks;
 }
@@ -212,9 +212,9 @@ bool Rules::IsRun(int column) const {
 }
 
 bool Rules::CheckFlush(int column) const {
-  const char suit = core::SuitOf(KeyAt(Area::Field, column));
-  return suit == core::SuitOf(KeyAt(Area::Field, column + Columns)) &&
-         suit == core::SuitOf(KeyAt(Area::Field, column + LastRow));
+  const char suit = core::SuitOf(KeyAt({Area::Field, column}));
+  return suit == core::SuitOf(KeyAt({Area::Field, column + Columns})) &&
+         suit == core::SuitOf(KeyAt({Area::Field, column + LastRow}));
 }
 
 void Rules::ClearColumn(int column) {

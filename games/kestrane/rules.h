@@ -17,11 +17,13 @@ enum class Area : std::int16_t { None = -1, UpCards = 0, Storage = 1, Field = 2 
 enum class Answer { Refused, Select, Cancel, Move };
 
 /// What a full column holds. A flush is a run of one suit.
-enum class Find { Nothing, Trip, Run, Flush };
+enum class Made { Nothing, Trip, Run, Flush };
 
+/// A place for a card: an up card, a spot of the storage, or a slot of the field.
 struct Spot {
   Area area = Area::None;
   int index = -1;
+  bool operator==(const Spot&) const = default;
 };
 
 /// The cards of one round and the counts of one game. Any order of calls and any index is
@@ -48,13 +50,13 @@ class Rules {
   /// Turns up the first three cards of the deck; the third lies in front.
   void Deal();
 
-  /// What a click there would do. A place of the field means its column.
-  Answer AnswerTo(Area area, int index) const;
+  /// What a click there would do. A slot of the field means its column.
+  Answer AnswerTo(Spot spot) const;
   /// Does it, and says what it was.
-  Answer Click(Area area, int index);
+  Answer Click(Spot spot);
 
   /// Clears and counts what a full column holds; a column that is not full holds nothing.
-  Find CheckColumn(int column);
+  Made CheckColumn(int column);
   /// Every spot of the storage and every column is full.
   bool NoMoveLeft() const;
 
@@ -65,9 +67,9 @@ class Rules {
   void TakeOff(Spot spot);
 
   /// Keys of the cards; empty where none lies.
-  const std::string& KeyAt(Area area, int index) const;
-  bool HasCard(Area area, int index) const { return !KeyAt(area, index).empty(); }
-  bool ColumnFull(int column) const { return HasCard(Area::Field, LastRow + column); }
+  const std::string& KeyAt(Spot spot) const;
+  bool HasCard(Spot spot) const { return !KeyAt(spot).empty(); }
+  bool ColumnFull(int column) const { return HasCard({Area::Field, LastRow + column}); }
   /// Key of the picture of the stack.
   std::string_view StackPicture() const;
   /// Cards not played yet, the up cards included.
@@ -75,8 +77,8 @@ class Rules {
 
   std::int16_t DeckIndex() const { return deckIndex_; }
   bool CardSelected() const { return cardSelected_; }
-  Area SelectedArea() const { return selectedArea_; }
-  std::int16_t SelectedIndex() const { return selectedIndex_; }
+  /// Of no area if no card is selected.
+  Spot Selected() const { return {selectedArea_, selectedIndex_}; }
   std::int16_t TripCount() const { return tripCount_; }
   std::int16_t RunCount() const { return runCount_; }
   std::int16_t RoundNumber() const { return roundNumber_; }
@@ -87,14 +89,14 @@ class Rules {
 
   /// Null for a place that does not exist.
   template <class Self>
-  static auto* CardAt(Self& self, Area area, int index);
+  static auto* CardAt(Self& self, Spot spot);
   void ClearBoard();
   int TopSlot(int column) const;  // -1 for an empty column
-  bool IsSelected(Area area, int index) const;
-  bool HasRoom(Area area, int index) const;
-  void Select(Area area, int index);
+  bool IsSelected(Spot spot) const;
+  bool HasRoom(Spot spot) const;
+  void Select(Spot spot);
   void EndSelection();
-  void MoveCard(int& index, Area area);
+  void MoveCard(Spot& spot);
   void UpDateDeck();
   bool IsTrip(int column) const;
   bool IsRun(int column) const;

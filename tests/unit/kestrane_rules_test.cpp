@@ -21,19 +21,19 @@ struct Round {
     rules.InitRound();
     rules.Deal();
   }
-  Answer Up() { return rules.Click(Area::UpCards, Rules::Front); }
-  Answer Column(int slot) { return rules.Click(Area::Field, slot); }
-  Answer Store(int spot) { return rules.Click(Area::Storage, spot); }
-  Find Lay(int column) {
+  Answer Up() { return rules.Click({Area::UpCards, Rules::Front}); }
+  Answer Column(int slot) { return rules.Click({Area::Field, slot}); }
+  Answer Store(int spot) { return rules.Click({Area::Storage, spot}); }
+  Made Lay(int column) {
     CHECK(Up() == Answer::Select);
     CHECK(Column(column) == Answer::Move);
     return rules.CheckColumn(column);
   }
-  std::string Field(int slot) const { return core::Trimmed(rules.KeyAt(Area::Field, slot)); }
-  std::string Stored(int spot) const { return core::Trimmed(rules.KeyAt(Area::Storage, spot)); }
+  std::string Field(int slot) const { return core::Trimmed(rules.KeyAt({Area::Field, slot})); }
+  std::string Stored(int spot) const { return core::Trimmed(rules.KeyAt({Area::Storage, spot})); }
   Keys UpCards() const {
-    return {rules.KeyAt(Area::UpCards, 0), rules.KeyAt(Area::UpCards, 1),
-            rules.KeyAt(Area::UpCards, 2)};
+    return {rules.KeyAt({Area::UpCards, 0}), rules.KeyAt({Area::UpCards, 1}),
+            rules.KeyAt({Area::UpCards, 2})};
   }
 
   core::Deck deck;
@@ -44,12 +44,11 @@ struct Round {
 Keys Snapshot(const Rules& rules) {
   Keys all;
   for (Area area : {Area::UpCards, Area::Storage, Area::Field}) {
-    for (int i = 0; i < Rules::Slots; ++i) all.push_back(rules.KeyAt(area, i));
+    for (int i = 0; i < Rules::Slots; ++i) all.push_back(rules.KeyAt({area, i}));
   }
-  for (int number :
-       {static_cast<int>(rules.DeckIndex()), static_cast<int>(rules.CardSelected()),
-        static_cast<int>(rules.SelectedArea()), static_cast<int>(rules.SelectedIndex()),
-        static_cast<int>(rules.TripCount()), static_cast<int>(rules.RunCount())}) {
+  for (int number : {static_cast<int>(rules.DeckIndex()), static_cast<int>(rules.CardSelected()),
+                     static_cast<int>(rules.Selected().area), rules.Selected().index,
+                     static_cast<int>(rules.TripCount()), static_cast<int>(rules.RunCount())}) {
     all.push_back(std::to_string(number));
   }
   return all;
@@ -71,34 +70,34 @@ TEST(ColumnsClearForTripsAndRunsInTheOrderInWhichTheCardsLie) {
     for (std::size_t i = 0; i < 3; ++i) keys.push_back(core::KeyFromNumber(ranks[i], suits[i]));
     Round round(keys);
     const int column = code % 4;
-    CHECK(round.Lay(column) == Find::Nothing && round.Lay(column) == Find::Nothing);
+    CHECK(round.Lay(column) == Made::Nothing && round.Lay(column) == Made::Nothing);
     const bool trip = ranks[0] == ranks[1] && ranks[1] == ranks[2];
     const bool run = runs.contains(ranks);
-    const Find expected = trip   ? Find::Trip
-                          : !run ? Find::Nothing
-                                 : (suits == "SSS" ? Find::Flush : Find::Run);
+    const Made expected = trip   ? Made::Trip
+                          : !run ? Made::Nothing
+                                 : (suits == "SSS" ? Made::Flush : Made::Run);
     CHECK(round.Lay(column) == expected);
     CHECK_EQ(round.rules.TripCount(), trip ? 1 : 0);
     CHECK_EQ(round.rules.RunCount(), run ? 1 : 0);
-    CHECK_EQ(round.rules.ColumnFull(column), expected == Find::Nothing);
-    CHECK_EQ(round.Field(column).empty(), expected != Find::Nothing);
+    CHECK_EQ(round.rules.ColumnFull(column), expected == Made::Nothing);
+    CHECK_EQ(round.Field(column).empty(), expected != Made::Nothing);
   }
 }
 
 TEST(AClickSelectsMovesCancelsOrIsRefused) {
   Round round({"5S", "7H", "6D", "1C", "2C", "3C", "4C"});
   CHECK_EQ(round.UpCards(), (Keys{"6D", "7H", "5S"}));
-  CHECK(round.rules.Click(Area::UpCards, 0) == Answer::Refused);
-  CHECK(round.rules.Click(Area::UpCards, 1) == Answer::Refused);
+  CHECK(round.rules.Click({Area::UpCards, 0}) == Answer::Refused);
+  CHECK(round.rules.Click({Area::UpCards, 1}) == Answer::Refused);
   CHECK(round.Column(2) == Answer::Refused && round.Store(0) == Answer::Refused);
 
   // The up card: selected, cancelled, moved to a column that fills from the top.
   CHECK(round.Up() == Answer::Select);
-  CHECK(round.rules.SelectedArea() == Area::UpCards);
-  CHECK(round.rules.Click(Area::UpCards, 0) == Answer::Refused && round.rules.CardSelected());
+  CHECK(round.rules.Selected().area == Area::UpCards);
+  CHECK(round.rules.Click({Area::UpCards, 0}) == Answer::Refused && round.rules.CardSelected());
   CHECK(round.Up() == Answer::Cancel);
-  CHECK(!round.rules.CardSelected() && round.rules.SelectedIndex() == -1);
-  CHECK(round.Lay(9) == Find::Nothing);
+  CHECK(!round.rules.CardSelected() && round.rules.Selected().index == -1);
+  CHECK(round.Lay(9) == Made::Nothing);
   CHECK_EQ(round.Field(1), "5S");
   CHECK_EQ(round.UpCards(), (Keys{"1C", "6D", "7H"}));
   round.Lay(1);
@@ -110,7 +109,7 @@ TEST(AClickSelectsMovesCancelsOrIsRefused) {
   CHECK(round.Column(5) == Answer::Refused && round.rules.CardSelected());
   CHECK(round.Up() == Answer::Cancel);
   CHECK(round.Column(1) == Answer::Select);
-  CHECK_EQ(round.rules.SelectedIndex(), 9);
+  CHECK_EQ(round.rules.Selected().index, 9);
   CHECK(round.Up() == Answer::Refused && round.Column(5) == Answer::Cancel);
   CHECK(round.Column(5) == Answer::Select && round.Store(1) == Answer::Move);
   CHECK_EQ(round.Stored(1), "6D");
@@ -126,7 +125,7 @@ TEST(AClickSelectsMovesCancelsOrIsRefused) {
   CHECK(round.Store(1) == Answer::Move);
   CHECK(round.Store(2) == Answer::Select && round.Column(1) == Answer::Move);
   CHECK(round.Store(1) == Answer::Select && round.Column(9) == Answer::Move);
-  CHECK(round.rules.CheckColumn(1) == Find::Run);
+  CHECK(round.rules.CheckColumn(1) == Made::Run);
   CHECK_EQ(round.Stored(0), "1C");
 }
 
@@ -151,7 +150,7 @@ TEST(AWholeDeckIsPlayedIntoTripsAndRuns) {
     CHECK_EQ(round.UpCards(), (Keys{up[2], up[1], up[0]}));
     CHECK(!round.rules.DeckUsedUp());
     const bool third = played % 3 == 2;
-    CHECK(round.Lay(2) == (!third ? Find::Nothing : played < 39 ? Find::Trip : Find::Flush));
+    CHECK(round.Lay(2) == (!third ? Made::Nothing : played < 39 ? Made::Trip : Made::Flush));
   }
   CHECK(round.rules.DeckUsedUp());
   CHECK_EQ(round.rules.CardsRemaining(), 0);
@@ -162,7 +161,7 @@ TEST(AWholeDeckIsPlayedIntoTripsAndRuns) {
   // What is left is moved about, and taken off from the last slot and the last spot on.
   CHECK(round.Column(10) == Answer::Select && round.Store(1) == Answer::Move);
   const Spot left = round.rules.NextLeftOver();
-  CHECK(left.area == Area::Storage && left.index == 1);
+  CHECK((left == Spot{Area::Storage, 1}));
   round.rules.TakeOff(left);
   CHECK(round.rules.NextLeftOver().area == Area::None);
 }
@@ -172,7 +171,7 @@ TEST(NoMoveIsLeftWhenStorageAndColumnsAreFullAndWhatIsLeftGoesFromTheEnd) {
   for (int i = 0; i < 15; ++i) keys.push_back(core::KeyFromNumber(1 + i * 2 % 13, 'S'));
   Round round(keys);
   for (int column = 0; column < Rules::Columns; ++column) {
-    for (int row = 0; row < 3; ++row) CHECK(round.Lay(column) == Find::Nothing);
+    for (int row = 0; row < 3; ++row) CHECK(round.Lay(column) == Made::Nothing);
   }
   for (int spot : {2, 0, 1}) {
     CHECK(!round.rules.NoMoveLeft());
@@ -217,11 +216,11 @@ TEST(AnyOrderOfClicksKeepsTheCards) {
       const auto area = static_cast<Area>(below(4) - 1);
       const int index = below(3) > 0 ? below(12) : below(40) - 20;
       const Keys before = Snapshot(round.rules);
-      const Answer promised = round.rules.AnswerTo(area, index);
-      CHECK(round.rules.Click(area, index) == promised);
+      const Answer promised = round.rules.AnswerTo({area, index});
+      CHECK(round.rules.Click({area, index}) == promised);
       CHECK_EQ(Snapshot(round.rules) == before, promised == Answer::Refused);
       for (int column = -1; column <= Rules::Columns; ++column) {
-        if (round.rules.CheckColumn(column) != Find::Nothing) cleared += 3;
+        if (round.rules.CheckColumn(column) != Made::Nothing) cleared += 3;
       }
       std::set<std::string> seen;
       int lying = 0;
