@@ -2,6 +2,7 @@
 #include "games/catalogue.h"
 
 #include "games/ostrel/window.h"
+#include "games/kestrane/window.h"
 #include "games/quindle/window.h"
 
 namespace games {
@@ -31,6 +32,14 @@ const core::GameEntry Entries[] = {
      90000,
      45,
      Make<ostrel::frmOstrel>},
+    {"Kestrane!",
+     "cmdKestrane",
+     "&Kestrane",
+     "Kestrane Hi Score Table ",
+     {50000, 30000, 50000},
+     225000,
+     120,
+     Make<kestrane::frmKestrane>},
 };
 
 }  // namespace
