@@ -2,6 +2,7 @@
 // the ten hands of a grid.
 #include <array>
 #include <chrono>
+#include <cstdint>
 #include <iostream>
 
 #include "core/cards/chance.h"
@@ -38,9 +39,9 @@ Counts CountAllHands() {
 // Nanoseconds for laying a card: the ten hands, and drawing the next card.
 double NanosecondsOfPlacing() {
   constexpr int rounds = 4000;
-  Settings settings;
-  settings.OverWrites = 26;
-  Rules rules(settings);
+  Values values;
+  values.OverWrites = 26;
+  Rules rules(values);
   core::Deck deck;
   core::Chance chance;
   deck.CreateDeck();

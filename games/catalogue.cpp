@@ -2,6 +2,7 @@
 #include "games/catalogue.h"
 
 #include "games/quindle/window.h"
+#include "games/vermoy/window.h"
 
 namespace games {
 namespace {
@@ -22,6 +23,14 @@ const core::GameEntry Entries[] = {
      175000,
      90,
      Make<quindle::frmQuindle>},
+    {"Vermoy!",
+     "cmdVermoy",
+     "&Vermoy",
+     "Vermoy Hi Score Table ",
+     {30000, 30000, 30000},
+     130000,
+     75,
+     Make<vermoy::frmVermoy>},
 };
 
 }  // namespace

@@ -11,10 +11,6 @@ namespace {
 constexpr int ThickStack = 25;  // a stack of more cards looks full
 constexpr int ThinStack = 12;   // a stack of more cards looks halved
 
-bool IsCell(int cell) {
-  return cell >= 0 && cell < Cells;
-}
-
 }  // namespace
 
 void TransposeGrid(Grid& grid) {
@@ -28,8 +24,7 @@ void TransposeGrid(Grid& grid) {
 void Rules::Reset() {
   gridCards_.fill("");
   dealtCards_.clear();
-  nextCardIndex_ = 0;
-  holeIndex_ = 0;
+  cardExposed_ = false;
   holeCard_.clear();
   overWritesUsed_ = 0;
   roundPoints_ = 0;
@@ -38,8 +33,7 @@ void Rules::Reset() {
 Drawn Rules::Deal(const core::Deck& deck) {
   dealtCards_.clear();
   for (int i = 1; i <= FullDeck; ++i) dealtCards_.push_back(deck(i));
-  nextCardIndex_ = 1;
-  holeIndex_ = 0;
+  cardExposed_ = false;
   holeCard_.clear();
   cardsRemaining_ = FullDeck;
   rowHands_.fill(Hand::Nothing);
@@ -48,19 +42,18 @@ Drawn Rules::Deal(const core::Deck& deck) {
 }
 
 Drawn Rules::DrawCard() {
-  if (cardsRemaining_ == 0 || dealtCards_.empty()) return {};
-  --cardsRemaining_;
-  const Drawn drawn{true, !suppressClick_};
+  if (cardsRemaining_ == 0 || dealtCards_.empty()) return Drawn::Nothing;
+  const Drawn drawn = suppressClick_ ? Drawn::Silent : Drawn::Sounding;
   suppressClick_ = false;
-  holeIndex_ = 1;
-  holeCard_ = dealtCards_[static_cast<std::size_t>(nextCardIndex_ - 1)];
-  ++nextCardIndex_;
+  cardExposed_ = true;
+  holeCard_ = dealtCards_[static_cast<std::size_t>(FullDeck - cardsRemaining_)];
+  --cardsRemaining_;
   return drawn;
 }
 
 bool Rules::IsLegal(int cell) const {
-  if (!IsCell(cell)) return false;
-  return GridCard(cell).empty() ? holeIndex_ > 0 : OverWritesLeft() > 0;
+  if (cell < 0 || cell >= Cells) return false;
+  return GridCard(cell).empty() ? cardExposed_ : OverWritesLeft() > 0;
 }
 
 Placed Rules::Place(int cell) {
@@ -70,7 +63,7 @@ Placed Rules::Place(int cell) {
   std::string& key = gridCards_[static_cast<std::size_t>(cell)];
   if (!key.empty()) ++overWritesUsed_;
   key = holeCard_;
-  holeIndex_ = 0;
+  cardExposed_ = false;
   holeCard_.clear();
   placed.handsMade = EvaluateGrid();
   if (placed.handsMade > 0) suppressClick_ = true;
@@ -95,7 +88,7 @@ int Rules::EvaluateLines(const Grid& grid, Hands& hands, std::int64_t& points) c
     Line line;
     std::copy_n(grid.begin() + static_cast<std::ptrdiff_t>(Side * i), Side, line.begin());
     const Hand hand = EvaluateHand(line);
-    points += settings_.ValueOf(hand);
+    points += values_.Of(hand);
     if (hand != hands[i] && hand != Hand::Nothing) ++made;
     hands[i] = hand;
   }
@@ -103,13 +96,8 @@ int Rules::EvaluateLines(const Grid& grid, Hands& hands, std::int64_t& points) c
 }
 
 bool Rules::RoundFollows(int roundNumber, std::int32_t currentScore) const {
-  if (roundNumber == BonusRound) return currentScore >= settings_.BonusScore;
+  if (roundNumber == BonusRound) return currentScore >= values_.BonusScore;
   return roundNumber < BonusRound;
-}
-
-const std::string& Rules::GridCard(int cell) const {
-  static const std::string none;
-  return IsCell(cell) ? gridCards_[static_cast<std::size_t>(cell)] : none;
 }
 
 bool Rules::GridIsFull() const {
@@ -121,11 +109,6 @@ std::string_view Rules::StackPicture() const {
   if (cardsRemaining_ > ThickStack) return "FULL";
   if (cardsRemaining_ > ThinStack) return "HALF";
   return cardsRemaining_ < 1 ? "EMPTY" : "BACK";
-}
-
-Hand Rules::HandOf(const Hands& hands, int number) {
-  if (number < 1 || number > Side) return Hand::Nothing;
-  return hands[static_cast<std::size_t>(number - 1)];
 }
 
 }  // namespace games::vermoy

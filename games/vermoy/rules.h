@@ -20,29 +20,25 @@ inline constexpr int BonusRound = 4;
 
 /// The grid row by row: position = 5 * row + column, both counted from 0.
 using Grid = std::array<Card, Cells>;
+void TransposeGrid(Grid& grid);  ///< swaps rows and columns in place
 
-/// Swaps rows and columns in place.
-void TransposeGrid(Grid& grid);
-
-/// What drawing a card gave.
-struct Drawn {
-  bool exposed = false;  ///< false: the deck is used up
-  bool sounds = false;   ///< a plain card's sound; a hand that was just made has sounded instead
-};
+/// What drawing a card gave: nothing, for the deck is used up; a card with its sound; a card whose
+/// sound a hand that was just made has taken.
+enum class Drawn { Nothing, Sounding, Silent };
 
 /// What a click on a cell gave.
 struct Placed {
   bool legal = false;  ///< false: nothing has changed
   int handsMade = 0;   ///< lines that now show another hand than before, and not "Nothing"
-  Drawn drawn;         ///< the card that is exposed next
+  Drawn drawn = Drawn::Nothing;
 };
 
 /// One round at a time: the grid, the deck that feeds it and the worth of its hands. Any call is
-/// safe at any time; a cell or line that does not exist is refused or reads as empty.
+/// safe at any time; a click on a cell that does not exist is refused.
 class Rules {
  public:
-  /// The settings are the caller's, outlive the rules and may change between two rounds.
-  explicit Rules(const Settings& settings) : settings_(settings) {}
+  /// The values are the caller's, outlive the rules and may change between two rounds.
+  explicit Rules(const Values& values) : values_(values) {}
 
   /// An empty grid, no card exposed, all overwrites left.
   void Reset();
@@ -56,35 +52,31 @@ class Rules {
   /// Whether a round with this number follows, after the round before it has been scored.
   bool RoundFollows(int roundNumber, std::int32_t currentScore) const;
 
-  /// The card key of a cell, from 0 to 24; empty for an empty cell.
-  const std::string& GridCard(int cell) const;
+  /// The card key of a cell from 0 to 24, empty for an empty one. Another number, and in the hands
+  /// another than 1 to 5, throws std::out_of_range.
+  const std::string& GridCard(int cell) const { return gridCards_.at(std::size_t(cell)); }
   bool GridIsFull() const;
   /// The exposed card; empty when there is none.
   const std::string& HoleCard() const { return holeCard_; }
   int CardsRemaining() const { return cardsRemaining_; }
   /// How thick the rest of the deck looks: "FULL", "HALF", "BACK" or "EMPTY".
   std::string_view StackPicture() const;
-  int OverWritesUsed() const { return overWritesUsed_; }
-  std::int32_t OverWritesLeft() const { return settings_.OverWrites - overWritesUsed_; }
+  std::int32_t OverWritesLeft() const { return values_.OverWrites - overWritesUsed_; }
   /// What all ten hands are worth as they stand now.
   std::int32_t RoundPoints() const { return roundPoints_; }
-  /// The hands of row or column 1 to 5.
-  Hand RowHand(int number) const { return HandOf(rowHands_, number); }
-  Hand ColumnHand(int number) const { return HandOf(columnHands_, number); }
+  Hand RowHand(int number) const { return rowHands_.at(std::size_t(number - 1)); }
+  Hand ColumnHand(int number) const { return columnHands_.at(std::size_t(number - 1)); }
 
  private:
   using Hands = std::array<Hand, Side>;
-
-  static Hand HandOf(const Hands& hands, int number);
   Drawn DrawCard();
   int EvaluateGrid();
   int EvaluateLines(const Grid& grid, Hands& hands, std::int64_t& points) const;
 
-  const Settings& settings_;
+  const Values& values_;
   std::array<std::string, Cells> gridCards_;
   std::vector<std::string> dealtCards_;  ///< from index 0
-  int nextCardIndex_ = 0;                ///< counted from 1; 0 before the first deal
-  int holeIndex_ = 0;                    ///< exposed cards: 1, or 0 for none
+  bool cardExposed_ = false;
   std::string holeCard_;
   int cardsRemaining_ = FullDeck;
   int overWritesUsed_ = 0;

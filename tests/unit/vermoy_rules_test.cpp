@@ -137,19 +137,19 @@ TEST(HandsAtTheirLimits) {
 }
 
 TEST(ARoundFillsTheGridAndPaysWhatStands) {
-  Settings settings;
-  Rules rules(settings);
+  Values values;
+  Rules rules(values);
   CHECK(!rules.Place(0).legal);  // before the first deal
-  CHECK(rules.Deal(DeckOf({"13S", "13H", "13C", "2S", "2H", "5D"})).sounds);
+  CHECK(rules.Deal(DeckOf({"13S", "13H", "13C", "2S", "2H", "5D"})) == Drawn::Sounding);
   CHECK_EQ(rules.CardsRemaining(), 51);
   CHECK_EQ(rules.HoleCard(), "13S");
   CHECK(!rules.IsLegal(-1) && !rules.IsLegal(Cells) && rules.IsLegal(24));
 
   // A pair in a row of two, three of a kind with a blank; a made hand takes the card's sound.
-  CHECK(rules.Place(0).drawn.sounds);
+  CHECK(rules.Place(0).drawn == Drawn::Sounding);
   Placed placed = rules.Place(1);
   CHECK_EQ(placed.handsMade, 1);
-  CHECK(placed.drawn.exposed && !placed.drawn.sounds);
+  CHECK(placed.drawn == Drawn::Silent);
   CHECK_EQ(TextOf(rules.RowHand(1)), "1 Pair");
   CHECK_EQ(rules.RoundPoints(), 50);
   CHECK_EQ(rules.Place(3).handsMade, 1);
@@ -158,9 +158,9 @@ TEST(ARoundFillsTheGridAndPaysWhatStands) {
 
   // The same hand again is no news; the card on the corner counts in its row and its column.
   placed = rules.Place(10);
-  CHECK(placed.handsMade == 0 && placed.drawn.sounds);
+  CHECK(placed.handsMade == 0 && placed.drawn == Drawn::Sounding);
   CHECK_EQ(rules.Place(0).handsMade, 2);  // the row falls to a pair, the column rises to one
-  CHECK_EQ(rules.OverWritesUsed(), 1);
+  CHECK_EQ(rules.OverWritesLeft(), 2);
   CHECK_EQ(TextOf(rules.RowHand(1)), "1 Pair");
   CHECK_EQ(TextOf(rules.ColumnHand(1)), "1 Pair");
   CHECK_EQ(rules.RoundPoints(), 100);
@@ -176,7 +176,7 @@ TEST(ARoundFillsTheGridAndPaysWhatStands) {
   rules.Reset();
   CHECK(!rules.Place(0).legal);
   rules.Deal(DeckOf(WorthlessCards()));
-  CHECK_EQ(rules.OverWritesUsed(), 0);
+  CHECK_EQ(rules.OverWritesLeft(), 3);
   CHECK_EQ(TextOf(rules.RowHand(1)), "Nothing");
   std::map<int, std::string> stacks;
   for (int i = 0; i < Cells; ++i) {
@@ -191,9 +191,9 @@ TEST(ARoundFillsTheGridAndPaysWhatStands) {
 }
 
 TEST(OverwritesAtTheirLimitsAndBeyond) {
-  Settings settings;
-  settings.OverWrites = 26;
-  Rules rules(settings);
+  Values values;
+  values.OverWrites = 26;
+  Rules rules(values);
   rules.Deal(DeckOf({}));
   std::map<int, std::string> stacks;
   for (int i = 0; i < 26; ++i) {
@@ -202,37 +202,39 @@ TEST(OverwritesAtTheirLimitsAndBeyond) {
   }
   rules.Place(0);
   CHECK(!rules.Place(0).legal);
-  for (int i = 1; i < Cells; ++i) CHECK(rules.Place(i).drawn.exposed);
+  for (int i = 1; i < Cells; ++i) CHECK(rules.Place(i).drawn != Drawn::Nothing);
   CHECK(rules.GridIsFull());
   CHECK_EQ(rules.CardsRemaining(), 0);
   CHECK_EQ(rules.StackPicture(), "EMPTY");
   CHECK(stacks[26] == "FULL" && stacks[25] == "HALF");
 
   // A settings file can allow more than the deck can feed: then a cell is covered with nothing.
-  settings.OverWrites = 1000;
+  values.OverWrites = 1000;
   rules.Reset();
   rules.Deal(DeckOf({}));
-  for (int i = 0; i < 51; ++i) CHECK(rules.Place(0).drawn.exposed);
-  CHECK(!rules.Place(0).drawn.exposed);
+  for (int i = 0; i < 51; ++i) CHECK(rules.Place(0).drawn != Drawn::Nothing);
+  CHECK(rules.Place(0).drawn == Drawn::Nothing);
   CHECK(rules.HoleCard().empty() && !rules.IsLegal(1));
   CHECK(rules.Place(0).legal);
   CHECK(rules.GridCard(0).empty() && !rules.IsLegal(0));
 
-  settings.OverWrites = 0;
+  values.OverWrites = 0;
   rules.Reset();
   rules.Deal(DeckOf({}));
   rules.Place(0);
   CHECK(!rules.IsLegal(0));
 
   // Values from a file may be anything, the worth of a grid stays within its width.
-  settings.values.fill(2147483647);
-  rules.Place(1);
+  values.Pair = 2147483647;
+  rules.Reset();
+  rules.Deal(DeckOf({"1S", "1H", "1C"}));
+  for (int cell : {0, 1, 5}) rules.Place(cell);
   CHECK_EQ(rules.RoundPoints(), 2147483647);
 }
 
 TEST(RoundsFollowUpToTheBonusRound) {
-  const Settings settings;
-  const Rules rules(settings);
+  const Values values;
+  const Rules rules(values);
   CHECK(rules.RoundFollows(2, 0) && rules.RoundFollows(3, 0));
   CHECK(!rules.RoundFollows(4, 99999));
   CHECK(rules.RoundFollows(4, 100000));
