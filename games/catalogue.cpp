@@ -4,6 +4,7 @@
 #include "games/ostrel/window.h"
 #include "games/kestrane/window.h"
 #include "games/quindle/window.h"
+#include "games/vermoy/window.h"
 
 namespace games {
 namespace {
@@ -40,6 +41,14 @@ const core::GameEntry Entries[] = {
      225000,
      120,
      Make<kestrane::frmKestrane>},
+    {"Vermoy!",
+     "cmdVermoy",
+     "&Vermoy",
+     "Vermoy Hi Score Table ",
+     {30000, 30000, 30000},
+     130000,
+     75,
+     Make<vermoy::frmVermoy>},
 };
 
 }  // namespace
