@@ -40,6 +40,7 @@ GameWindow::GameWindow(Suite& suite, const GameEntry& entry, Vocabulary words)
       entry_(entry),
       words_(std::move(words)) {
   cmdPause.Enabled = false;
+  Score.Number.Text = "0";
   Message.Visible = false;
   Message.FontSize = 18;
   Message.Bold = true;
@@ -66,9 +67,7 @@ void GameWindow::Load() {
   Title.lblProductName.Text = shared.GameTitle;
   StatusBar1(1).Text = "Welcome to " + shared.GameTitle + "  ";
   WallClock_Timer();
-  if (!Exists(HighScorePath(suite, *this))) {
-    CreateHighScoreFile(suite, *this, entry_.startScores.atWindow);
-  }
+  CreateTableIfMissing();
   ShowTableTop();
   shared.SessionStart = suite.platform.Now();
   ShowTimerGroup(false);
