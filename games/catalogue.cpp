@@ -1,6 +1,7 @@
 // The catalogue of games: the one place that names them.
 #include "games/catalogue.h"
 
+#include "games/mozaro/window.h"
 #include "games/quindle/window.h"
 
 namespace games {
@@ -22,6 +23,14 @@ const core::GameEntry Entries[] = {
      175000,
      90,
      Make<quindle::frmQuindle>},
+    {"Mozaro!",
+     "cmdMozaro",
+     "&Mozaro",
+     "Mozaro Hi Score Table ",
+     {50000, 50000, 50000},
+     500000,
+     60,
+     Make<mozaro::frmMozaro>},
 };
 
 }  // namespace

@@ -32,6 +32,7 @@ void Board::Initialize(std::int16_t columns, std::int16_t rows, std::int16_t box
   emptyColumnCount_ = 0;
   columnSlid_ = false;
   MovesAvailable = true;
+  lookedForMoves_ = false;
   PercentComplete = 0;
   selection_.clear();
   boxes_.assign(IndexOf(columns_, rows_) + 1, Box());
@@ -122,23 +123,33 @@ std::int32_t Board::GetGroupValue(std::size_t count) {
 }
 
 // From the bottom right corner upwards, column by column. What belongs to a group that has been
-// found too small needs no second look, so that the whole search passes each box once.
-void Board::CheckForMoves() {
-  MovesAvailable = false;
+// found too small needs no second look, so that the whole search passes each box once. Leaves
+// nothing selected.
+std::optional<Board::Cell> Board::FirstMove() {
+  std::optional<Cell> move;
   ClearSelection();
-  for (int column = columns_; column >= 0; --column) {
-    for (int row = rows_; row >= 0; --row) {
+  for (int column = columns_; column >= 0 && !move; --column) {
+    for (int row = rows_; row >= 0 && !move; --row) {
       const Box& box = At(column, row);
       if (box.Removed || box.Visited) continue;
       selection_.clear();
       FindAdjoiningBoxes(column, row, box.Color);
-      if (std::ssize(selection_) < groupSize_) continue;
-      MovesAvailable = FindBoxCollection(column, row);
-      return;
+      if (std::ssize(selection_) >= groupSize_) move = Cell{column, row};
     }
   }
-  owner_.GroupValue = 0;
   ClearSelection();
+  lookedForMoves_ = true;
+  return move;
+}
+
+void Board::CheckForMoves() {
+  const auto move = FirstMove();
+  MovesAvailable = move.has_value();
+  if (move) {
+    FindBoxCollection(move->column, move->row);
+    return;
+  }
+  owner_.GroupValue = 0;
   owner_.ShowPointer(false);
   DrawBoard();
 }
@@ -148,6 +159,7 @@ void Board::CheckForMoves() {
 std::int32_t Board::RemoveGroup(int column, int row) {
   if (!FindBoxCollection(column, row)) {
     if (owner_.PlaySounds()) owner_.PlayWave("Chord.wav");
+    if (!lookedForMoves_) MovesAvailable = FirstMove().has_value();
     return 0;
   }
   const std::size_t count = selection_.size();

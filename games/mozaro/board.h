@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,12 +34,17 @@ class BoardOwner : public BoxSurface {
 class Board {
  public:
   static constexpr int MostCells = 65535;
+  struct Cell {
+    int column;
+    int row;
+  };
 
   Board(BoardOwner& owner, core::Chance& chance) : owner_(owner), chance_(chance) {}
   Board(const Board&) = delete;
 
-  bool MovesAvailable = true;  ///< set without a look when the grid is new
-  float PercentComplete = 0;   ///< share of the cells that are empty, 0 to 100
+  /// Set without a look when the grid is new; the first click on it looks.
+  bool MovesAvailable = true;
+  float PercentComplete = 0;  ///< share of the cells that are empty, 0 to 100
 
   /// Makes a fresh grid of random boxes. `columns` and `rows` are the last indices; what is
   /// negative counts as 0, and rows beyond MostCells cells are left out.
@@ -68,11 +74,6 @@ class Board {
   }
 
  private:
-  struct Cell {
-    int column;
-    int row;
-  };
-
   std::size_t IndexOf(int column, int row) const {
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_ + 1) +
            static_cast<std::size_t>(column);
@@ -89,6 +90,7 @@ class Board {
   void NoteClearedColumn();
   void ShowProgress();
   void PlayRemoval();
+  std::optional<Cell> FirstMove();
   void CheckForMoves();
   static std::int32_t GetGroupValue(std::size_t count);
 
@@ -98,6 +100,7 @@ class Board {
   std::vector<Box*> selection_;
   std::vector<Cell> pending_;
   float boxSize_ = 0;
+  bool lookedForMoves_ = false;  // on this grid
   bool columnCleared_ = false;
   std::int16_t emptyColumnCount_ = 0;  // the highest so far; slide mode only
   std::int16_t columns_ = -1;

@@ -361,6 +361,18 @@ TEST(ColumnsPayByTheModeOfSettling) {
   CHECK_EQ(muted.owner.TakeLog(), (Rows{"TwentyOne.wav", "wait 50"}));
 }
 
+TEST(TheFirstClickLooksForMoves) {
+  Pair none({"0101", "1010"}, 2, 2, true);
+  none.Click(0, 0);
+  CHECK(!none.board.MovesAvailable);
+  Pair one({"0100", "1010"}, 2, 2, true);
+  one.Click(0, 0);  // a miss: the group elsewhere is neither shown nor valued
+  CHECK(one.board.MovesAvailable);
+  CHECK_EQ(one.owner.GroupValue, 0);
+  CHECK_EQ(one.owner.marked, 0);
+  CHECK(!one.board.Boxes(2, 0).Selected);
+}
+
 TEST(GroupsAreFoundAndPlacesComputed) {
   Pair pair({"0110", "0010", "0100"}, 2, 4, true);
   Board& board = pair.board;
