@@ -109,7 +109,7 @@ class frmMozaro : public core::GameWindow, public BoardOwner {
   ui::Label lblTimeScore{this, "lblTimeScore"};
   ui::Label lblScoreForNextRound{this, "lblScoreForNextRound"};
   ui::Label lblGridSize{this, "lblGridSize"};
-  ui::Label lblGroupValue{this, "lblGroupValue"};
+  ui::Label lblGroupValue{this, "lblGroupValue", "Group Value: 0"};
   ui::Label lblInfo{this, "lblInfo"};
   core::CounterBox Round{this, "Round", "lblRound", "Round:", "lblCurrentRound"};
   ui::Button cmdTakeScore{this, "cmdTakeScore", "&Take Score", "End current round and take score",
