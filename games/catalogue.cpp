@@ -3,6 +3,7 @@
 
 #include "games/ostrel/window.h"
 #include "games/kestrane/window.h"
+#include "games/mozaro/window.h"
 #include "games/quindle/window.h"
 #include "games/vermoy/window.h"
 
@@ -49,6 +50,14 @@ const core::GameEntry Entries[] = {
      130000,
      75,
      Make<vermoy::frmVermoy>},
+    {"Mozaro!",
+     "cmdMozaro",
+     "&Mozaro",
+     "Mozaro Hi Score Table ",
+     {50000, 50000, 50000},
+     500000,
+     60,
+     Make<mozaro::frmMozaro>},
 };
 
 }  // namespace
