@@ -1,5 +1,4 @@
 // Harvel's rules: aces in every order, gimmes, busts, the 21 Counter, passes and the deck's end.
-#define CHECK_NO_MAIN
 #include "games/harvel/rules.h"
 #include "tests/check.h"
 #include "tests/unit/columns_fixture.h"
