@@ -1,6 +1,7 @@
 // The catalogue of games: the one place that names them.
 #include "games/catalogue.h"
 
+#include "games/harvel/window.h"
 #include "games/quindle/window.h"
 
 namespace games {
@@ -22,6 +23,14 @@ const core::GameEntry Entries[] = {
      175000,
      90,
      Make<quindle::frmQuindle>},
+    {"Harvel!",
+     "cmdHarvel",
+     "&Harvel",
+     "Harvel Hi Score Table ",
+     {50000, 50000, 50000},
+     700000,
+     90,
+     Make<harvel::frmHarvel>},
 };
 
 }  // namespace

@@ -20,18 +20,18 @@ std::size_t At(int column) {
 
 }  // namespace
 
-Rules::Rules(const core::Deck& deck, columns::Values values, const Settings& settings)
-    : Columns(deck, values, ColumnCount), settings_(settings) {}
+Rules::Rules(const core::Deck& deck, columns::SharedValues shared, const Values& values)
+    : Columns(deck, shared, ColumnCount), values_(values) {}
 
 void Rules::SetTimeBonusDecay(int timeLimit) {
-  const auto fall = static_cast<float>(settings_.TimeBonusMax - settings_.TimeBonusMin);
+  const auto fall = static_cast<float>(values_.TimeBonusMax - values_.TimeBonusMin);
   TimeBonusDecay = timeLimit > 0 ? fall / static_cast<float>(timeLimit) : 0;
 }
 
 // The decay is short of digits and the rest is not, so an exact half can fall to either side.
 void Rules::UpdateTimeBonus(int elapsedSeconds) {
-  const double max = settings_.TimeBonusMax;
-  const double min = settings_.TimeBonusMin;
+  const double max = values_.TimeBonusMax;
+  const double min = values_.TimeBonusMin;
   const double bonus = (max + min) - (elapsedSeconds * static_cast<double>(TimeBonusDecay) + min);
   CurrentTimeBonus = ClampTo<std::int32_t>(core::RoundToEven(bonus));
 }
@@ -39,7 +39,7 @@ void Rules::UpdateTimeBonus(int elapsedSeconds) {
 void Rules::Reset() {
   ClearColumns();
   SetCardTotal(0);
-  CurrentTimeBonus = settings_.TimeBonusMax;
+  CurrentTimeBonus = values_.TimeBonusMax;
   PassesLeft = CardsToPass;
 }
 
@@ -92,7 +92,7 @@ std::int32_t Rules::ScoreStep() const {
 }
 
 int Rules::RoundToPlay(int round, std::int32_t score) const {
-  if (round == BonusRound && score < settings_.BonusScore) return AfterLastRound;
+  if (round == BonusRound && score < values_.BonusScore) return AfterLastRound;
   return round;
 }
 

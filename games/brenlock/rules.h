@@ -36,7 +36,7 @@ struct HitResult {
 class Rules : public columns::Columns {
  public:
   /// All that is given outlives the rules.
-  Rules(const core::Deck& deck, columns::Values values, const Settings& settings);
+  Rules(const core::Deck& deck, columns::SharedValues shared, const Values& values);
 
   std::int16_t CardTotal = 0;         ///< the sum of the columns; TotalOfBust after a bust
   std::int16_t CardTotalValue = 0;    ///< what it is worth
@@ -72,7 +72,7 @@ class Rules : public columns::Columns {
   void SetCardTotal(int total);
   int SumOfColumns() const;
 
-  const Settings& settings_;
+  const Values& values_;
 };
 
 }  // namespace games::brenlock

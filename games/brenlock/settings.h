@@ -5,7 +5,7 @@
 
 namespace games::brenlock {
 
-struct Settings {
+struct Values {
   std::int16_t TimeBonusMax = 300;   ///< Time Bonus at the start of a round
   std::int16_t TimeBonusMin = 100;   ///< and when the time is up
   std::int32_t BonusScore = 200000;  ///< a score of at least this earns the bonus round

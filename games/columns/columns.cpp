@@ -18,11 +18,11 @@ std::size_t At(int column) {
 
 }  // namespace
 
-Columns::Columns(const core::Deck& deck, Values values, int count)
-    : DeckIndex(values.DeckIndex),
-      PassesLeft(values.PassesLeft),
-      CardsToPass(values.CardsToPass),
-      SoftAces(values.SoftAces),
+Columns::Columns(const core::Deck& deck, SharedValues shared, int count)
+    : DeckIndex(shared.DeckIndex),
+      PassesLeft(shared.PassesLeft),
+      CardsToPass(shared.CardsToPass),
+      SoftAces(shared.SoftAces),
       deck_(deck),
       count_(std::min(count, MostColumns)) {}
 

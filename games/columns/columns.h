@@ -15,7 +15,7 @@ inline constexpr int MostColumns = 5;
 inline constexpr int LastCard = 52;  ///< position in the deck
 
 /// The values that both games keep process-wide. Whoever makes them outlives the rules.
-struct Values {
+struct SharedValues {
   std::int16_t& DeckIndex;
   std::int16_t& PassesLeft;
   std::int16_t& CardsToPass;
@@ -27,7 +27,7 @@ struct Values {
 class Columns {
  public:
   /// `count` columns, numbered from 0. The deck stays its owner's.
-  Columns(const core::Deck& deck, Values values, int count);
+  Columns(const core::Deck& deck, SharedValues shared, int count);
 
   std::int16_t& DeckIndex;    ///< position of the current card, from 1
   std::int16_t& PassesLeft;   ///< cards that may still be passed in this round

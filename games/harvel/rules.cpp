@@ -15,8 +15,8 @@ constexpr int SingleBackFrom = 35;
 
 }  // namespace
 
-Rules::Rules(const core::Deck& deck, columns::Values values, const Settings& settings)
-    : Columns(deck, values, ColumnCount), settings_(settings) {}
+Rules::Rules(const core::Deck& deck, columns::SharedValues shared, const Values& values)
+    : Columns(deck, shared, ColumnCount), values_(values) {}
 
 void Rules::StartGame() {
   EndRound();
@@ -39,7 +39,7 @@ HitResult Rules::Hit(int column) {
   if (!IsColumn(column) || !CardInPlay()) return {};
   int total = ColumnTotal[static_cast<std::size_t>(column)] + CurrentCardOn(column);
   if (total > columns::TwentyOne) {
-    if (!UseSoftAce(column)) return {Outcome::Refused, 0, -BustCost};
+    if (!UseSoftAce(column)) return {Outcome::Refused, 0, false, -BustCost};
     total -= SoftDifference;
   }
   return PlaceCard(column, total);
@@ -47,14 +47,14 @@ HitResult Rules::Hit(int column) {
 
 HitResult Rules::PlaceCard(int column, int total) {
   auto& cards = CardsInColumn[static_cast<std::size_t>(column)];
-  HitResult result{Outcome::Placed, cards++, 0};
+  HitResult result{Outcome::Placed, cards++, IsSoft(column), 0};
   ++DeckIndex;
   if (total == columns::TwentyOne) {
     result.outcome = Outcome::TwentyOne;
     AwardTwentyOne(column);
   } else if (cards == columns::PlacesOfColumn) {
     result.outcome = Outcome::FiveCardGimme;
-    result.points = settings_.FiveCardsBonusValue;
+    result.points = values_.FiveCardsBonusValue;
     ClearColumn(column);
     CounterValue = 0;
   } else {
@@ -65,7 +65,7 @@ HitResult Rules::PlaceCard(int column, int total) {
 
 void Rules::AwardTwentyOne(int column) {
   ++TwentyOneCount;
-  BonusFigure = ClampTo<std::int32_t>(std::int64_t{BonusFigure} + settings_.TwentyOneBonusValue);
+  BonusFigure = ClampTo<std::int32_t>(std::int64_t{BonusFigure} + values_.TwentyOneBonusValue);
   ClearColumn(column);
   CounterValue = 0;
 }
@@ -76,7 +76,7 @@ CounterTick Rules::TickCounter() {
     return CounterValue == CounterLimit / 2 ? CounterTick::HalfWay : CounterTick::Counting;
   }
   CounterValue = 0;
-  BonusFigure = settings_.TwentyOneBonusValue;
+  BonusFigure = values_.TwentyOneBonusValue;
   return CounterTick::RanOut;
 }
 
@@ -90,7 +90,7 @@ std::int32_t Rules::TwentyOneBonus() const {
 }
 
 int Rules::BonusSteps() const {
-  const std::int64_t step = settings_.TwentyOneBonusValue;
+  const std::int64_t step = values_.TwentyOneBonusValue;
   return step > 0 ? static_cast<int>((TwentyOneBonus() + step - 1) / step) : 0;
 }
 
@@ -100,7 +100,7 @@ void Rules::ClearBonus() {
 }
 
 bool Rules::IsBonusRound(int round, std::int32_t score) const {
-  return round == BonusRound && score > settings_.BonusRoundScore;
+  return round == BonusRound && score > values_.BonusRoundScore;
 }
 
 bool Rules::IsPlayed(int round, std::int32_t score) const {

@@ -23,6 +23,7 @@ enum class Outcome {
 struct HitResult {
   Outcome outcome = Outcome::Nothing;
   int place = 0;            ///< where the card came to lie, 0 to 4
+  bool soft = false;        ///< the column was soft when the card had come
   std::int32_t points = 0;  ///< for the score, below 0 for a bust
 };
 
@@ -38,7 +39,7 @@ class Rules : public columns::Columns {
   static constexpr int CounterLimit = 100;
 
   /// All that is given outlives the rules.
-  Rules(const core::Deck& deck, columns::Values values, const Settings& settings);
+  Rules(const core::Deck& deck, columns::SharedValues shared, const Values& values);
 
   std::int16_t TwentyOneCount = 0;  ///< 21 combinations made in this round
   std::int32_t BonusFigure = 0;     ///< what each of them will be worth
@@ -71,7 +72,7 @@ class Rules : public columns::Columns {
   HitResult PlaceCard(int column, int total);
   void AwardTwentyOne(int column);
 
-  const Settings& settings_;
+  const Values& values_;
 };
 
 }  // namespace games::harvel

@@ -5,7 +5,7 @@
 
 namespace games::harvel {
 
-struct Settings {
+struct Values {
   std::int32_t TwentyOneBonusValue = 1000;  ///< step of the round's bonus figure
   std::int32_t CardsUsedBonusValue = 100;   ///< points per card used
   std::int32_t FiveCardsBonusValue = 750;

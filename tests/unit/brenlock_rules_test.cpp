@@ -8,8 +8,8 @@ namespace {
 using namespace games::brenlock;
 
 struct Fixture : ColumnsFixture {
-  Settings settings;
-  Rules rules{deck, Values(), settings};
+  Values values;
+  Rules rules{deck, Shared(), values};
 
   void Start(const std::vector<int>& ranks) {
     Stack(2, ranks);
@@ -132,8 +132,8 @@ TEST(BrenlockTimeBonusFallsInSinglePrecision) {
 
   const std::vector<std::pair<int, int>> ranges = {{300, 100}, {10000, 1}, {145, 100}, {2, 1}};
   for (const auto& [max, min] : ranges) {
-    f.settings.TimeBonusMax = static_cast<std::int16_t>(max);
-    f.settings.TimeBonusMin = static_cast<std::int16_t>(min);
+    f.values.TimeBonusMax = static_cast<std::int16_t>(max);
+    f.values.TimeBonusMin = static_cast<std::int16_t>(min);
     for (const int limit : {15, 30, 45, 60, 75}) {
       for (int second = 0; second <= limit; ++second) {
         const std::int64_t lost = std::int64_t{max - min} * second;
@@ -145,13 +145,13 @@ TEST(BrenlockTimeBonusFallsInSinglePrecision) {
     }
   }
   // Exact halves: the stored decay lies a trace beside 5/6 and 1/6, and decides them.
-  f.settings = {150, 100, 0};
+  f.values = {150, 100, 0};
   CHECK_EQ(at(60, 9), 143);
   CHECK_EQ(at(60, 3), 148);
-  f.settings = {110, 100, 0};
+  f.values = {110, 100, 0};
   CHECK_EQ(at(60, 3), 109);
   CHECK_EQ(at(60, 9), 108);
-  f.settings = {32767, -32768, 0};
+  f.values = {32767, -32768, 0};
   CHECK_EQ(at(15, 15), -32768);
   CHECK_EQ(at(0, 5), 32767);  // no limit, no fall
 }

@@ -12,7 +12,7 @@ struct ColumnsFixture {
   std::int16_t DeckIndex = 0, PassesLeft = 0, CardsToPass = 3;
   std::array<std::int16_t, 5> SoftAces{};
 
-  games::columns::Values Values() { return {DeckIndex, PassesLeft, CardsToPass, SoftAces}; }
+  games::columns::SharedValues Shared() { return {DeckIndex, PassesLeft, CardsToPass, SoftAces}; }
 
   /// The deck from `first` on, in either spelling of the keys; sevens fill it up.
   void Stack(int first, const std::vector<int>& ranks) {

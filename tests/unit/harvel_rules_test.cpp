@@ -8,8 +8,8 @@ namespace {
 using namespace games::harvel;
 
 struct Fixture : ColumnsFixture {
-  Settings settings;
-  Rules rules{deck, Values(), settings};
+  Values values;
+  Rules rules{deck, Shared(), values};
 
   void Start(const std::vector<int>& ranks = {}) {
     Stack(1, ranks);
@@ -110,7 +110,7 @@ TEST(HarvelCounterHoldsTheBonusFigureDown) {
 
   // Values that only a hand-written settings file can hold.
   for (const auto& [value, bonus] : {std::pair{0, 0}, {2000000000, 2147483647}, {-5, -5}}) {
-    f.settings.TwentyOneBonusValue = value;
+    f.values.TwentyOneBonusValue = value;
     f.Start({1, 10});
     make(1);
     CHECK_EQ(f.rules.BonusFigure, value);
