@@ -1,6 +1,7 @@
 // The catalogue of games: the one place that names them.
 #include "games/catalogue.h"
 
+#include "games/brenlock/window.h"
 #include "games/harvel/window.h"
 #include "games/quindle/window.h"
 
@@ -23,6 +24,14 @@ const core::GameEntry Entries[] = {
      175000,
      90,
      Make<quindle::frmQuindle>},
+    {"Brenlock!",
+     "cmdBrenlock",
+     "&Brenlock",
+     "Brenlock Hi Score Table ",
+     {50000, 50000, 50000},
+     600000,
+     60,
+     Make<brenlock::frmBrenlock>},
     {"Harvel!",
      "cmdHarvel",
      "&Harvel",
