@@ -4,6 +4,8 @@
 #include "games/ostrel/window.h"
 #include "games/kestrane/window.h"
 #include "games/mozaro/window.h"
+#include "games/brenlock/window.h"
+#include "games/harvel/window.h"
 #include "games/quindle/window.h"
 #include "games/vermoy/window.h"
 
@@ -58,6 +60,22 @@ const core::GameEntry Entries[] = {
      500000,
      60,
      Make<mozaro::frmMozaro>},
+    {"Brenlock!",
+     "cmdBrenlock",
+     "&Brenlock",
+     "Brenlock Hi Score Table ",
+     {50000, 50000, 50000},
+     600000,
+     60,
+     Make<brenlock::frmBrenlock>},
+    {"Harvel!",
+     "cmdHarvel",
+     "&Harvel",
+     "Harvel Hi Score Table ",
+     {50000, 50000, 50000},
+     700000,
+     90,
+     Make<harvel::frmHarvel>},
 };
 
 }  // namespace
