@@ -2,6 +2,7 @@
 #include "games/catalogue.h"
 
 #include "games/brenlock/window.h"
+#include "games/fandrel/window.h"
 #include "games/harvel/window.h"
 #include "games/kestrane/window.h"
 #include "games/mozaro/window.h"
@@ -35,6 +36,8 @@ const core::GameEntry Entries[] = {
      130000, 75, Make<vermoy::frmVermoy>},
     {"Kestrane!", "cmdKestrane", "&Kestrane", "Kestrane Hi Score Table ", {50000, 30000, 50000},
      225000, 120, Make<kestrane::frmKestrane>},
+    {"Fandrel!",  "cmdFandrel",  "&Fandrel",  "Fandrel Hi Score Table ",  {50000, 50000, 50000},
+     13000000, 90, Make<fandrel::frmFandrel>},
 };
 // clang-format on
 
