@@ -23,6 +23,7 @@ class frmDialog : public ui::Window {
   ui::Button cmdMore{this, "cmdMore", "&More", "", &frmDialog::cmdMore_Click};
 
  private:
+  void KeyTyped(char32_t) override { GetPlatform().Quit(); }
   void cmdOK_Click() { Unload(); }
   void cmdMore_Click() {
     GetPlatform().MessageBox(ui::Sign::Plain, ui::Buttons::OkCancel, "", "More?");

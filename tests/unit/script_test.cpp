@@ -373,6 +373,14 @@ ok
 ok
 > answer ok
 no: nothing stands that could be answered
+> click cmdWaitAsk
+* wait 300
+* box question okcancel "" "Really?"
+* wave tick
+ok
+> answer ok
+* wave ok
+ok
 > click cmdFail
 * box plain ok "" "it failed"
 ok
@@ -562,6 +570,18 @@ TEST(TheClockStartsAtNoonAndIsSet) {
 TEST(TheEndComesAlsoBehindABox) {
   CHECK_EQ(Answers("click cmdAsk\nquit\nclick cmdInner\n"),
            "* show frmMain\n* wave once\nok\n* box question okcancel \"\" \"Really?\"\nok\n");
+  TALK(R"TALK(
+> click cmdModal
+* modal frmDialog
+ok
+> focus cmdOK
+ok
+> key "q"
+* wave name 
+* end
+ok
+(returned)
+)TALK");
   TALK(R"TALK(
 > close
 * box question yesno "Fake" "Close?"
