@@ -85,7 +85,9 @@ void GameWindow::ShowTableTop() {
 }
 
 void GameWindow::Resized() {
-  if (GameRunning() && StopsWhenMinimized() && !shared.ScoringBusy) StopOrGoOnMinimized();
+  // Pause can be used in a round only: not while one is scored, nor at the end of a game.
+  const bool inRound = GameRunning() && cmdPause.Enabled() && !shared.ScoringBusy;
+  if (inRound && StopsWhenMinimized()) StopOrGoOnMinimized();
   if (State() == ui::WindowState::Minimized) return;
   if (BelowSmallest()) {
     NormalSize = words_.smallestSize;
