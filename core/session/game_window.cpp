@@ -105,6 +105,10 @@ void GameWindow::StopOrGoOnMinimized() {
   for (ui::Timer* timer : GameTimers()) timer->Enabled = !minimized;
 }
 
+bool GameWindow::StandsStill() const {
+  return StopsWhenMinimized() && State() == ui::WindowState::Minimized;
+}
+
 bool GameWindow::BelowSmallest() const {
   const ui::Size smallest = words_.smallestSize;
   return State() == ui::WindowState::Normal &&
