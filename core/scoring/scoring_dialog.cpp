@@ -204,6 +204,7 @@ void ScoringDialog::Refuse(NumberField& field, const FieldTest& test) {
 }
 
 void ScoringDialog::StoreAll() {
+  if (table_.beforeStoring) table_.beforeStoring(*this);
   for (NumberField* field : FieldsInTestOrder()) {
     field->store(NumberOf(field->name));
     if (field->passed) field->passed(*this);

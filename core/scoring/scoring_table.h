@@ -129,8 +129,9 @@ struct ScoringTable {
 
   std::function<void(ScoringDialog&)> opened = {};
   std::function<void(ScoringDialog&)> beforeTests = {};
-  std::function<void(ScoringDialog&)> afterTests = {};  ///< whether or not a field was refused
-  std::function<void(ScoringDialog&)> allValid = {};    ///< right before the dialog closes
+  std::function<void(ScoringDialog&)> beforeStoring = {};  ///< refusing tables, when all is valid
+  std::function<void(ScoringDialog&)> afterTests = {};     ///< whether or not a field was refused
+  std::function<void(ScoringDialog&)> allValid = {};       ///< right before the dialog closes
   /// After Default has set fields and values: the time limit's entry, other values.
   std::function<void(ScoringDialog&)> defaults = {};
 };

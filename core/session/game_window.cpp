@@ -66,9 +66,7 @@ void GameWindow::Load() {
   Title.lblProductName.Text = shared.GameTitle;
   StatusBar1(1).Text = "Welcome to " + shared.GameTitle + "  ";
   WallClock_Timer();
-  if (!Exists(HighScorePath(suite, *this))) {
-    CreateHighScoreFile(suite, *this, entry_.startScores.atWindow);
-  }
+  CreateTableIfMissing();
   ShowTableTop();
   shared.SessionStart = suite.platform.Now();
   ShowTimerGroup(false);

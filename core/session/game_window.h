@@ -141,10 +141,15 @@ class GameWindow : public ui::Window, public TableOwner {
   SettingsKey DeckKey(int otherwise = 0);
   SettingsKey TimeKey();
 
+  /// Sets CustomScoring by these values, with the notice if they are not the standard ones.
+  void TestForCustom(const std::vector<ScoringValue>& values);
+
   void ChooseTimeLimit(int seconds);
   bool ChooseDeck(int number);
   void SetTimeLimitMark();
 
+  /// What every start of a game begins with: score 0, round 1, no message, no title panel.
+  void BeginGame();
   /// Captions, tips and menus of a game that runs, or of an idle window.
   void ShowRunningCommands();
   void ShowIdleCommands();
@@ -185,6 +190,7 @@ class GameWindow : public ui::Window, public TableOwner {
   void FinishGame();
   /// Enters the score and shows the top of the table; says so if that fails.
   void UpdateTable();
+  void CreateTableIfMissing();
   void ShowTableTop();
   /// "Game Over" for a while, then the title panel.
   void ShowGameOver(int milliseconds);

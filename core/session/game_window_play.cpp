@@ -1,6 +1,7 @@
 // Playing: the commands, the clock's ticks, pausing, and the end of a game.
 #include <algorithm>
 
+#include "core/files/files.h"
 #include "core/halloffame/high_scores.h"
 #include "core/session/game_window.h"
 #include "core/text/number.h"
@@ -47,6 +48,15 @@ void GameWindow::EnableFixedMenus(bool enabled) {
   for (const std::string& name : words_.fixedInGame) {
     if (ui::Menu* menu = Menus.Named(name)) menu->Enabled = enabled;
   }
+}
+
+void GameWindow::BeginGame() {
+  shared.ScoringBusy = false;
+  shared.CurrentScore = 0;
+  shared.RoundNumber = 1;
+  WriteScore();
+  HideMessage();
+  ShowTitle(false);
 }
 
 void GameWindow::ShowRunningCommands() {
@@ -218,6 +228,11 @@ void GameWindow::UpdateTable() {
   suite.Tell(ui::Sign::Critical,
              "An error occured when attmpting to access the High Score Table. Please close and "
              "restart the game.");
+}
+
+void GameWindow::CreateTableIfMissing() {
+  if (Exists(HighScorePath(suite, *this))) return;
+  CreateHighScoreFile(suite, *this, entry_.startScores.atWindow);
 }
 
 void GameWindow::FinishGame() {

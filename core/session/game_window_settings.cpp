@@ -30,7 +30,10 @@ void GameWindow::WriteSettings() {
 }
 
 void GameWindow::CheckForCustom() {
-  const auto values = ScoringValues();
+  TestForCustom(ScoringValues());
+}
+
+void GameWindow::TestForCustom(const std::vector<ScoringValue>& values) {
   shared.CustomScoring = std::any_of(values.begin(), values.end(),
                                      [](const ScoringValue& v) { return v.now != v.standard; });
   shared.CustomScoring ? ShowCustomScoringNotice(suite, shared.GameTitle) : AtDefaultScoring();

@@ -1,0 +1,33 @@
+// The catalogue of games: the one place that names them.
+#include "games/catalogue.h"
+
+#include "games/quindle/window.h"
+
+namespace games {
+namespace {
+
+template <class W>
+std::unique_ptr<ui::Window> Make(core::Suite& suite, const core::GameEntry& entry) {
+  return std::make_unique<W>(suite, entry);
+}
+
+// Title, launcher button and its caption, table name, start scores (window, end of a game, high
+// score window), smallest score and time limit of a public listing, window.
+const core::GameEntry Entries[] = {
+    {"Quindle!",
+     "cmdQuindle",
+     "&Quindle",
+     "Quindle Hi Score Table ",
+     {50000, 50000, 50000},
+     175000,
+     90,
+     Make<quindle::frmQuindle>},
+};
+
+}  // namespace
+
+core::Catalogue AllGames() {
+  return Entries;
+}
+
+}  // namespace games
