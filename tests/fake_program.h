@@ -23,6 +23,7 @@ class frmDialog : public ui::Window {
   ui::Button cmdMore{this, "cmdMore", "&More", "", &frmDialog::cmdMore_Click};
 
  private:
+  void KeyTyped(char32_t) override { GetPlatform().Quit(); }
   void cmdOK_Click() { Unload(); }
   void cmdMore_Click() {
     GetPlatform().MessageBox(ui::Sign::Plain, ui::Buttons::OkCancel, "", "More?");
@@ -69,6 +70,7 @@ class frmMain : public ui::Window {
   ui::Timer tmrTick{this, "tmrTick", 100, ui::Timer::At::Off, &frmMain::tmrTick_Timer};
   ui::Timer tmrSlow{this, "tmrSlow", 1000, ui::Timer::At::Off, &frmMain::tmrSlow_Timer};
   ui::Timer tmrBox{this, "tmrBox", 1000, ui::Timer::At::Off, &frmMain::tmrBox_Timer};
+  ui::Timer tmrStorm{this, "tmrStorm", 10, ui::Timer::At::Off, &frmMain::tmrStorm_Timer};
   ui::Button cmdTick{this, "cmdTick", "&Tick", "Switches the tick", &frmMain::cmdTick_Click};
   ui::Button cmdSlow{this, "cmdSlow", "", "", &frmMain::cmdSlow_Click};
   ui::Button cmdBoxes{this, "cmdBoxes", "", "", &frmMain::cmdBoxes_Click};
@@ -80,6 +82,7 @@ class frmMain : public ui::Window {
   ui::Button cmdServe{this, "cmdServe", "", "", &frmMain::cmdServe_Click};
   ui::Button cmdWaitAsk{this, "cmdWaitAsk", "", "", &frmMain::cmdWaitAsk_Click};
   ui::Button cmdMachine{this, "cmdMachine", "", "", &frmMain::cmdMachine_Click};
+  ui::Button cmdStorm{this, "cmdStorm", "", "", &frmMain::cmdStorm_Click};
   ui::Button cmdFail{this, "cmdFail", "", "", &frmMain::cmdFail_Click};
   ui::Button cmdQuit{this, "cmdQuit", "", "", &frmMain::cmdQuit_Click};
   ui::Frame grpMore{this, "grpMore", "More"};
@@ -125,6 +128,13 @@ class frmMain : public ui::Window {
     GetPlatform().MessageBox(ui::Sign::Critical, ui::Buttons::Ok, "Late", "a\r\nb");
     Say("told");
   }
+  void tmrStorm_Timer() {
+    GetPlatform().ServeEvents();
+    GetPlatform().Wait(20);
+    GetPlatform().ServeEvents();
+    throw std::runtime_error("storm");
+  }
+  void cmdStorm_Click() { tmrStorm.Enabled = true; }
   void cmdTick_Click() { tmrTick.Enabled = !tmrTick.Enabled(); }
   void cmdSlow_Click() { tmrSlow.Enabled = !tmrSlow.Enabled(); }
   void cmdBoxes_Click() { tmrBox.Enabled = true; }

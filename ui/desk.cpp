@@ -85,6 +85,16 @@ void Desk::UserMove(Surface& surface, int x, int y) {
   if (surface.OnMouseMoveAt) Run([&] { surface.OnMouseMoveAt(x, y); });
 }
 
+void Desk::UserMoveBeside(Window& window) {
+  if (window.DropsInput) return;
+  Run([&] { window.MouseMove(); });
+}
+
+void Desk::UserStrike(Window& window, char32_t letter) {
+  if (window.DropsInput) return;
+  Run([&] { window.KeyTyped(letter); });
+}
+
 void Desk::UserType(Field& field, const std::string& text) {
   if (field.Owner().DropsInput) return;
   Run([&] {

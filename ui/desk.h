@@ -39,6 +39,8 @@ class Desk : public Platform {
   void UserPress(Surface& surface, int x, int y);
   void UserMove(Control& control);
   void UserMove(Surface& surface, int x, int y);
+  void UserMoveBeside(Window& window);  ///< over the window beside its controls
+  void UserStrike(Window& window, char32_t letter);
   void UserType(Field& field, const std::string& text);
   void UserChoose(List& list, int index);
   void UserCheck(Check& check, bool checked);

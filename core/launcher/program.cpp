@@ -32,6 +32,16 @@ std::string InstalledData() {
   return (program.parent_path().parent_path() / "share" / "pastimo").string();
 }
 
+/// Pictures in words, for those who can't see them.
+std::string DescriptionOf(const std::string& key) {
+  if (const std::string card = CardName(key); !card.empty()) return card;
+  if (key == "BACK") return "Card face down";
+  if (key == "FULL" || key == "HALF") return "Pile of cards face down";
+  if (key == "EMPTY" || key == "Empty") return "Empty place";
+  if (key == "QDLE") return "Emblem";
+  return key;
+}
+
 }  // namespace
 
 std::string HomeDirectory(const std::string& wanted) {
@@ -58,7 +68,7 @@ Program::Program(ui::Desk& platform, Chance& chance, Catalogue catalogue, std::s
     const auto position = suite.images.Find(key);
     return position ? CardImages::ArtworkAt(*position) : std::string(key);
   });
-  platform.SetDescription([](const std::string& key) { return CardName(key); });
+  platform.SetDescription(DescriptionOf);
 }
 
 void Program::Start() {

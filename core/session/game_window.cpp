@@ -40,6 +40,7 @@ GameWindow::GameWindow(Suite& suite, const GameEntry& entry, Vocabulary words)
       entry_(entry),
       words_(std::move(words)) {
   cmdPause.Enabled = false;
+  Score.Number.Text = "0";
   Message.Visible = false;
   Message.FontSize = 18;
   Message.Bold = true;

@@ -8,6 +8,40 @@ namespace {
 
 const std::string Any = "...";
 
+constexpr int Whole = 100;  // the cost of a line too many or too few
+
+/// What it costs to take one line for another: less the more they begin and end alike.
+int CostOf(const std::string& expected, const std::string& came) {
+  if (expected == came) return 0;
+  const std::size_t shorter = std::min(expected.size(), came.size());
+  std::size_t alike = 0;
+  while (alike < shorter && expected[alike] == came[alike]) ++alike;
+  std::size_t end = 0;
+  while (alike + end < shorter && expected.rbegin()[end] == came.rbegin()[end]) ++end;
+  const auto longer = static_cast<int>(std::max(expected.size(), came.size()));
+  return Whole - Whole / 2 * static_cast<int>(alike + end) / longer;
+}
+
+/// Whether they are the same, found without looking for the cheapest way.
+bool Matches(const Lines& expected, const Lines& came) {
+  std::size_t e = 0, c = 0, behindAny = 0, retry = 0;
+  while (c < came.size() || e < expected.size()) {
+    if (e < expected.size() && expected[e] == Any) {
+      behindAny = ++e;
+      retry = c;
+    } else if (e < expected.size() && c < came.size() && expected[e] == came[c]) {
+      ++e;
+      ++c;
+    } else if (behindAny > 0 && retry < came.size()) {
+      e = behindAny;
+      c = ++retry;
+    } else {
+      return false;
+    }
+  }
+  return true;
+}
+
 /// One step on the way, by how many expected lines and how many that came it takes.
 struct Step {
   int cost = 0;
@@ -43,9 +77,9 @@ class Ways {
       offer(0, 1, 0);
       if (moreCame) offer(0, 0, 1);
     } else {
-      if (moreExpected && moreCame) offer(expected_[e] == came_[c] ? 0 : 1, 1, 1);
-      if (moreExpected) offer(1, 1, 0);
-      if (moreCame) offer(1, 0, 1);
+      if (moreExpected && moreCame) offer(CostOf(expected_[e], came_[c]), 1, 1);
+      if (moreExpected) offer(Whole, 1, 0);
+      if (moreCame) offer(Whole, 0, 1);
     }
     return best;
   }
@@ -58,9 +92,9 @@ class Ways {
 }  // namespace
 
 Comparison Compare(const Lines& expected, const Lines& came) {
+  if (Matches(expected, came)) return {true, {}, expected};
   Ways ways(expected, came);
   Comparison result;
-  result.same = ways.At(0, 0).cost == 0;
   for (std::size_t e = 0, c = 0; e < expected.size() || c < came.size();) {
     const Step step = ways.At(e, c);
     const bool any = ways.IsAny(e);

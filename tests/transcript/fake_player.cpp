@@ -1,5 +1,4 @@
 // The small program of the script tests, as a program of its own to be played by transcripts.
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 

@@ -373,6 +373,14 @@ ok
 ok
 > answer ok
 no: nothing stands that could be answered
+> click cmdWaitAsk
+* wait 300
+* box question okcancel "" "Really?"
+* wave tick
+ok
+> answer ok
+* wave ok
+ok
 > click cmdFail
 * box plain ok "" "it failed"
 ok
@@ -563,6 +571,18 @@ TEST(TheEndComesAlsoBehindABox) {
   CHECK_EQ(Answers("click cmdAsk\nquit\nclick cmdInner\n"),
            "* show frmMain\n* wave once\nok\n* box question okcancel \"\" \"Really?\"\nok\n");
   TALK(R"TALK(
+> click cmdModal
+* modal frmDialog
+ok
+> focus cmdOK
+ok
+> key "q"
+* wave name 
+* end
+ok
+(returned)
+)TALK");
+  TALK(R"TALK(
 > close
 * box question yesno "Fake" "Close?"
 ok
@@ -581,7 +601,7 @@ ok
 
 TEST(NoLineDoesHarm) {
   std::string commands = "\n  \n# nothing\n";
-  const std::string huge(3 << 20, 'x');
+  const std::string huge(1 << 20, 'x');
   for (const std::string& name : {huge, "\"" + huge, std::string("a\0b", 3),
                                   std::string("\xFF\xFE\\"), std::string("\"\\")}) {
     for (const char* command : {"", "click ", "get ", "watch ", "type txtName ", "fault ", "queue ",
@@ -597,6 +617,18 @@ TEST(NoLineDoesHarm) {
     CHECK(line.size() < 200);
   }
   CHECK_EQ(refused, 5 * 12 + 7);
+}
+
+TEST(AStormOfBoxesIsSurvived) {
+  std::string commands = "click cmdStorm\n", waits;
+  for (int i = 0; i < 500; ++i) waits += "wait 10\n";
+  for (int i = 0; i < 500; ++i) commands += "answer ok\n";
+  std::istringstream answers(Answers(waits + commands + waits));
+  int answered = 0;
+  for (std::string line; std::getline(answers, line);) {
+    if (line == "ok" || line.starts_with("no: ")) ++answered;
+  }
+  CHECK_EQ(answered, 1 + 500 + 1 + 500 + 500);
 }
 
 TEST(TheCommandLineIsTakenApart) {

@@ -83,6 +83,7 @@ void HeadlessPlatform::PassTime(std::int64_t milliseconds) {
 
 void HeadlessPlatform::Start(const std::function<void()>& startUp) {
   Run(startUp);
+  Settle();
   Timer* oneShot = FirstDue(ticks_ + 1);
   if (oneShot && oneShot->Interval() == 1 && !ended_) Tick(*oneShot);
   Settle();
@@ -138,8 +139,8 @@ void HeadlessPlatform::ShowModal(Window& window) {
   LetStand(
       stand, [&] { return !window.IsOpen() || window.IsHidden(); },
       [&] { Run([&] { Open(window, true); }); });
-  // The program ends behind it: its owner destroys it from here on.
-  if (window.IsOpen() && !window.IsHidden()) Closed(window);
+  // It is only hidden, or the program ends behind it: its owner may destroy it from here on.
+  if (window.IsOpen()) Closed(window);
 }
 
 void HeadlessPlatform::Hide(Window& window) {
@@ -210,11 +211,11 @@ void HeadlessPlatform::PlayerMoves(Control& control, Point place) {
 }
 
 void HeadlessPlatform::PlayerMovesBeside(Window& window) {
-  Run([&] { window.MouseMove(); });
+  UserMoveBeside(window);
 }
 
 void HeadlessPlatform::PlayerStrikes(Window& window, char32_t letter) {
-  Run([&] { window.KeyTyped(letter); });
+  UserStrike(window, letter);
 }
 
 void HeadlessPlatform::PlayerAnswers(Answer answer) {

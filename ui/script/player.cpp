@@ -17,9 +17,11 @@ bool IsIn(Kind kind, std::initializer_list<Kind> kinds) {
   return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
 }
 
+/// The place that the command names, or the middle; only on a surface does it count.
 Point PlaceOn(const Control& control, const Command& command) {
   const Rect place = control.Place();
-  if (command.Arguments() == 1) return {place.w / 2, place.h / 2};
+  if (command.Arguments() == 1 || control.GetKind() != Kind::Surface)
+    return {place.w / 2, place.h / 2};
   return {static_cast<int>(TakeNumber(command.words[2], 0, std::max(0, place.w - 1))),
           static_cast<int>(TakeNumber(command.words[3], 0, std::max(0, place.h - 1)))};
 }
@@ -39,7 +41,7 @@ char32_t TakeLetter(const Word& word) {
   const std::string& text = TakeText(word);
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const Refused refusal{QuoteShort(text) + " is not one letter"};
-  if (text.empty() || byte(0) < ' ') throw refusal;
+  if (text.empty() || byte(0) < ' ' || (byte(0) >= 0x7F && byte(0) < 0xC2)) throw refusal;
   const std::size_t size = byte(0) < 0x80 ? 1 : byte(0) < 0xE0 ? 2 : byte(0) < 0xF0 ? 3 : 4;
   if (text.size() != size) throw refusal;
   if (size == 1) return byte(0);

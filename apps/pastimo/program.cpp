@@ -1,0 +1,32 @@
+// Putting the desktop program together.
+#include "apps/pastimo/program.h"
+
+#include <chrono>
+#include <string>
+
+#include "core/launcher/program.h"
+#include "games/catalogue.h"
+#include "ui/qt/platform.h"
+
+namespace apps {
+namespace {
+
+std::uint64_t Nanoseconds() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<std::uint64_t>(
+      std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
+}
+
+}  // namespace
+
+int RunPastimo(int argc, char** argv, const Started& started) {
+  ui::qt::QtPlatform platform(argc, argv, {core::DataDirectory() + "pictures"});
+  core::Chance chance(Nanoseconds);
+  core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""),
+                        argc > 1 ? argv[1] : "");
+  program.Start();
+  if (started) started(platform);
+  return platform.Exec();
+}
+
+}  // namespace apps

@@ -1,0 +1,110 @@
+// Answering a test's questions.
+#include "tests/desktop/probe.h"
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QWidget>
+#include <QWindow>
+#include <iostream>
+#include <sstream>
+
+#include "ui/qt/platform.h"
+#include "ui/qt/strings.h"
+
+class Probe::Reader {
+ public:
+  explicit Reader(ui::qt::QtPlatform& platform)
+      : platform_(platform), notifier_(STDIN_FILENO, QSocketNotifier::Read) {
+    QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] { Read(); });
+  }
+
+ private:
+  void Read() {
+    char buffer[4096];
+    const ssize_t count = read(STDIN_FILENO, buffer, sizeof buffer);
+    if (count <= 0) {
+      notifier_.setEnabled(false);
+      return;
+    }
+    pending_.append(buffer, static_cast<std::size_t>(count));
+    for (std::size_t end; (end = pending_.find('\n')) != std::string::npos;) {
+      std::cout << "= " << Answer(pending_.substr(0, end)) << std::endl;
+      pending_.erase(0, end + 1);
+    }
+  }
+
+  std::string Answer(const std::string& question) const {
+    std::istringstream words(question);
+    std::string verb, name;
+    words >> verb >> name;
+    if (verb == "windows") return Windows();
+    const ui::Control* control = FindControl(name);
+    if (!control) return "none";
+    return verb == "text" ? TextOf(*control) : PlaceOf(*control);
+  }
+
+  std::string Windows() const {
+    std::string names;
+    for (const ui::Window* window : platform_.Windows()) {
+      names += (names.empty() ? "" : " ") + window->Name() + (window->IsHidden() ? ":hidden" : "");
+    }
+    return names;
+  }
+
+  const ui::Control* FindControl(const std::string& name) const {
+    for (const ui::Window* window : platform_.Windows()) {
+      if (const ui::Control* control = window->Find(name)) return control;
+    }
+    return nullptr;
+  }
+
+  static std::string TextOf(const ui::Control& control) {
+    switch (control.GetKind()) {
+      case ui::Kind::Label:
+        return static_cast<const ui::Label&>(control).Text();
+      case ui::Kind::Button:
+        return static_cast<const ui::Button&>(control).Text();
+      case ui::Kind::Field:
+        return static_cast<const ui::Field&>(control).Text();
+      case ui::Kind::Panel:
+        return static_cast<const ui::Panel&>(control).Text();
+      case ui::Kind::Menu:
+        return static_cast<const ui::Menu&>(control).Text();
+      default:
+        return "";
+    }
+  }
+
+  static std::string PlaceOf(const ui::Control& control) {
+    const QString name = ui::qt::ToQt(control.FullName());
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+      if (top->objectName() != ui::qt::ToQt(control.Owner().Name()) || !top->isVisible()) continue;
+      if (auto* widget = top->findChild<QWidget*>(name)) {
+        return widget->isVisible() ? OnScreen(*widget, widget->rect()) : "none";
+      }
+      if (auto* board = top->findChild<QWidget*>(QStringLiteral("board"))) {
+        const ui::Rect place = control.PlaceInWindow();
+        return control.Shown() ? OnScreen(*board, {place.x, place.y, place.w, place.h}) : "none";
+      }
+    }
+    return "none";
+  }
+
+  static std::string OnScreen(const QWidget& widget, const QRect& area) {
+    const qreal ratio = widget.devicePixelRatioF();
+    const QPoint corner = widget.mapToGlobal(area.topLeft());
+    std::ostringstream answer;
+    answer << int(corner.x() * ratio) << ' ' << int(corner.y() * ratio) << ' '
+           << int(area.width() * ratio) << ' ' << int(area.height() * ratio);
+    return answer.str();
+  }
+
+  ui::qt::QtPlatform& platform_;
+  QSocketNotifier notifier_;
+  std::string pending_;
+};
+
+Probe::Probe(ui::qt::QtPlatform& platform) : reader_(std::make_unique<Reader>(platform)) {}
+Probe::~Probe() = default;

@@ -1,0 +1,171 @@
+// Boxes, lines, frames and the table itself.
+#include <QLinearGradient>
+
+#include "ui/qt/artwork.h"
+#include "ui/qt/ground.h"
+#include "ui/qt/painters.h"
+#include "ui/qt/strings.h"
+#include "ui/window.h"
+
+namespace ui::qt {
+namespace {
+
+constexpr int Shadow = 6;
+constexpr int EdgeShade = 28;
+
+void PaintSunken(QPainter& painter, const QRectF& box) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.fillRect(box, QColor(tone::Wood).darker(140));
+  painter.fillRect(box.adjusted(1, 1, 0, 0), QColor(tone::Box));
+  QLinearGradient depth(box.topLeft(), box.topLeft() + QPointF(0, 7));
+  depth.setColorAt(0, QColor(60, 45, 10, 90));
+  depth.setColorAt(1, QColor(60, 45, 10, 0));
+  painter.fillRect(box.adjusted(1, 1, -1, -1), depth);
+}
+
+void PaintShadow(QPainter& painter, const QRectF& around, double radius) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0, 0, 0, 16));
+  for (int i = Shadow; i > 0; --i) {
+    painter.drawRoundedRect(around.adjusted(-i + 2, -i + 4, i - 2, i), radius + i, radius + i);
+  }
+}
+
+void PaintBoard(QPainter& painter, const QRectF& board) {
+  PaintShadow(painter, board, 6);
+  painter.setPen(QPen(QColor(tone::Gold), 2));
+  painter.setBrush(QColor(tone::Board));
+  painter.drawRoundedRect(board.adjusted(1, 1, -1, -1), 6, 6);
+}
+
+void PaintPanel(QPainter& painter, const QRectF& panel) {
+  PaintShadow(painter, panel, 8);
+  QLinearGradient depth(panel.topLeft(), panel.bottomLeft());
+  depth.setColorAt(0, QColor(tone::Panel).lighter(107));
+  depth.setColorAt(1, QColor(tone::Panel).darker(108));
+  painter.setPen(QPen(QColor(tone::Gold), 2));
+  painter.setBrush(depth);
+  painter.drawRoundedRect(panel.adjusted(1, 1, -1, -1), 8, 8);
+  painter.setPen(QPen(QColor(tone::Gold).darker(115), 1));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(panel.adjusted(5.5, 5.5, -5.5, -5.5), 5, 5);
+}
+
+void PaintGroup(QPainter& painter, const QRectF& place, const QString& caption, Ground ground) {
+  const bool felt = ground == Ground::Felt;
+  painter.setFont(FontOf(9, true));
+  const QFontMetricsF metrics(painter.font());
+  const double half = caption.isEmpty() ? 0 : metrics.height() / 2;
+  const QRectF box = place.adjusted(0.5, half + 0.5, -0.5, -0.5);
+  const QColor line = felt ? QColor(255, 255, 255, 90) : QColor(tone::Wood);
+  painter.setPen(QPen(line, 1));
+  painter.setBrush(felt ? QColor(0, 0, 0, 36) : QColor(255, 255, 255, 90));
+  painter.drawRoundedRect(box, 6, 6);
+  if (caption.isEmpty()) return;
+  const QRectF plate(place.left() + 10, place.top(), metrics.horizontalAdvance(caption) + 12,
+                     metrics.height());
+  painter.setPen(felt ? QPen(line, 1) : QPen(Qt::NoPen));
+  painter.setBrush(felt ? QColor(tone::Felt).darker(135) : QColor(tone::Paper));
+  painter.drawRoundedRect(plate.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+  painter.setPen(QColor(felt ? tone::Cream : tone::Ink));
+  painter.drawText(plate, Qt::AlignCenter, caption);
+}
+
+void ShadeEdge(QPainter& painter, const QRect& strip, QPoint from, QPoint to) {
+  QLinearGradient shade(from, to);
+  shade.setColorAt(0, QColor(0, 0, 0, 70));
+  shade.setColorAt(1, QColor(0, 0, 0, 0));
+  painter.fillRect(strip, shade);
+}
+
+void ShadeEdges(QPainter& painter, QSize size, const QRect& part) {
+  const int w = size.width(), h = size.height(), e = EdgeShade;
+  if (part.top() < e) ShadeEdge(painter, QRect(0, 0, w, e), {0, 0}, {0, e});
+  if (part.bottom() >= h - e) ShadeEdge(painter, QRect(0, h - e, w, e), {0, h}, {0, h - e});
+  if (part.left() < e) ShadeEdge(painter, QRect(0, 0, e, h), {0, 0}, {e, 0});
+  if (part.right() >= w - e) ShadeEdge(painter, QRect(w - e, 0, e, h), {w, 0}, {w - e, 0});
+}
+
+}  // namespace
+
+void PaintShape(QPainter& painter, const Shape& shape) {
+  const QRectF place = ToQt(shape.PlaceInWindow());
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  switch (shape.ShapeLook) {
+    case Shape::Look::Sunken:
+      PaintSunken(painter, place);
+      break;
+    case Shape::Look::Board:
+      PaintBoard(painter, place);
+      break;
+    case Shape::Look::Outline: {
+      // A dark rim keeps the colour apart from the card and from the table.
+      painter.setBrush(Qt::NoBrush);
+      painter.setPen(QPen(QColor(0, 0, 0, 110), 5));
+      painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+      painter.setPen(QPen(ColorOf(shape.LineColor()), 3));
+      painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+      break;
+    }
+  }
+  painter.restore();
+}
+
+void PaintLine(QPainter& painter, const Line& line) {
+  const QRectF place = ToQt(line.PlaceInWindow());
+  const bool straight = place.width() <= line.Thickness() || place.height() <= line.Thickness();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing, !straight);
+  if (straight) {
+    const double width = std::max<double>(place.width(), line.Thickness());
+    const double height = std::max<double>(place.height(), line.Thickness());
+    painter.fillRect(QRectF(place.topLeft(), QSizeF(width, height)), ColorOf(line.LineColor()));
+  } else {
+    painter.setPen(QPen(ColorOf(line.LineColor()), line.Thickness(), Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(line.Rising() ? place.bottomLeft() : place.topLeft(),
+                     line.Rising() ? place.topRight() : place.bottomRight());
+  }
+  painter.restore();
+}
+
+void PaintFrame(QPainter& painter, const Frame& frame) {
+  const QRectF place = ToQt(frame.PlaceInWindow());
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (frame.FrameLook == Frame::Look::Panel) {
+    PaintPanel(painter, place);
+  } else {
+    PaintGroup(painter, place, ToQt(frame.Text()), GroundOf(frame.Owner()));
+  }
+  painter.restore();
+}
+
+void PaintGround(QPainter& painter, const Window& window, QSize size, const QRect& part,
+                 const Scene& scene) {
+  if (GroundOf(window) != Ground::Felt) {
+    painter.fillRect(part, ColorOf(Ground::Paper));
+    return;
+  }
+  const QPixmap tile = scene.artwork.Natural("felt", scene.ratio);
+  if (tile.isNull()) {
+    painter.fillRect(part, ColorOf(Ground::Felt));
+  } else {
+    painter.drawTiledPixmap(part, tile, part.topLeft());
+  }
+  ShadeEdges(painter, size, part);
+}
+
+void PaintFocus(QPainter& painter, const QRect& around) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  const QRectF ring = QRectF(around).adjusted(-1.5, -1.5, 1.5, 1.5);
+  painter.setPen(QPen(QColor(0, 0, 0, 200), 4));
+  painter.drawRoundedRect(ring, 7, 7);
+  painter.setPen(QPen(QColor(255, 255, 255), 2, Qt::DashLine));
+  painter.drawRoundedRect(ring, 7, 7);
+  painter.restore();
+}
+
+}  // namespace ui::qt

@@ -1,0 +1,161 @@
+// Labels: letters that read well on whatever they stand on.
+#include <QFontMetricsF>
+#include <QStringList>
+#include <algorithm>
+
+#include "ui/qt/ground.h"
+#include "ui/qt/painters.h"
+#include "ui/qt/strings.h"
+
+namespace ui::qt {
+namespace {
+
+constexpr double ReadsWell = 4.0;
+constexpr double ReadsOnLight = 3.0;
+constexpr double SmallestShare = 0.85;  // a text is not shrunk further, but stands over its place
+constexpr int MessageSize = 14;         // points; larger texts on the table get a plaque
+constexpr QMarginsF PlaqueMargins{9, 3, 9, 4};
+constexpr QMarginsF LampMargins{6, 1, 6, 1};
+
+/// How the letters are made to stand out.
+struct Ink {
+  enum class Under { Nothing, Plaque, Lamp };
+  QColor color;
+  Under under = Under::Nothing;  ///< a light plate, or a dark one on which bright letters glow
+};
+
+Ink InkOn(Ground ground, const Label& label) {
+  const QColor color = ColorOf(label.TextColor());
+  if (ground != Ground::Felt) {
+    const bool readable = Contrast(color, ColorOf(ground)) >= ReadsOnLight;
+    return {color, readable ? Ink::Under::Nothing : Ink::Under::Lamp};
+  }
+  const bool big = label.FontSize() >= MessageSize;
+  if (label.TextColor() == Black && !big) return {tone::Cream};
+  const bool readable = !big && Contrast(color, ColorOf(ground)) >= ReadsWell;
+  return {color, readable ? Ink::Under::Nothing : Ink::Under::Plaque};
+}
+
+QStringList BreakLines(const QString& text, const QFontMetricsF& metrics, double width) {
+  QStringList lines;
+  for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
+    QString line;
+    for (const QString& word : paragraph.split(QLatin1Char(' '))) {
+      const QString longer = line.isEmpty() ? word : line + QLatin1Char(' ') + word;
+      if (!line.isEmpty() && metrics.horizontalAdvance(longer) > width) {
+        lines << line;
+        line = word;
+      } else {
+        line = longer;
+      }
+    }
+    lines << line;
+  }
+  return lines;
+}
+
+/// A label's text, broken into lines and measured.
+struct Lines {
+  QStringList texts;
+  QFont font;
+  QRectF area;
+  double height = 0;
+  double ascent = 0;
+};
+
+QStringList LinesOf(const Label& label, const QFontMetricsF& metrics, double width) {
+  QString text = ToQt(label.Text());
+  text.remove(QLatin1Char('\r'));
+  if (label.Wrap() && width > 0) return BreakLines(text, metrics, width);
+  return text.split(QLatin1Char('\n'));
+}
+
+double WidestOf(const QStringList& lines, const QFontMetricsF& metrics) {
+  double widest = 0;
+  for (const QString& line : lines) widest = std::max(widest, metrics.horizontalAdvance(line));
+  return widest;
+}
+
+double LeftOf(Align alignment, const QRectF& place, double width) {
+  switch (alignment) {
+    case Align::Left:
+      return place.left();
+    case Align::Center:
+      return place.center().x() - width / 2;
+    case Align::Right:
+      break;
+  }
+  return place.right() - width;
+}
+
+Lines Measure(const Label& label) {
+  const QRectF place = ToQt(label.PlaceInWindow());
+  Lines lines;
+  lines.font = FontOf(label.FontSize(), label.Bold());
+  lines.texts = LinesOf(label, QFontMetricsF(lines.font), place.width());
+  double width = WidestOf(lines.texts, QFontMetricsF(lines.font));
+  if (width > place.width() && place.width() > 0) {
+    const double share = std::max(SmallestShare, place.width() / width);
+    lines.font.setPixelSize(std::max(9, int(lines.font.pixelSize() * share)));
+    width = WidestOf(lines.texts, QFontMetricsF(lines.font));
+  }
+  const QFontMetricsF metrics(lines.font);
+  lines.height = metrics.height();
+  lines.ascent = metrics.ascent();
+  const double height = lines.height * double(lines.texts.size());
+  const bool centered = height > place.height() || place.height() < 2 * height;
+  const double top = centered ? place.center().y() - height / 2 : place.top();
+  lines.area = QRectF(LeftOf(label.Alignment(), place, width), top, width, height);
+  return lines;
+}
+
+void PaintPlaque(QPainter& painter, const QRectF& around) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF plate = around.marginsAdded(PlaqueMargins);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0, 0, 0, 60));
+  painter.drawRoundedRect(plate.translated(0, 2), 6, 6);
+  painter.setPen(QPen(QColor(tone::Gold), 1));
+  painter.setBrush(QColor(tone::Board));
+  painter.drawRoundedRect(plate.adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+  painter.restore();
+}
+
+void PaintLamp(QPainter& painter, const QRectF& around) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(tone::Lamp));
+  painter.drawRoundedRect(around.marginsAdded(LampMargins), 4, 4);
+}
+
+bool HasText(const Label& label) {
+  return label.Text().find_first_not_of(" \r\n") != std::string::npos;
+}
+
+}  // namespace
+
+QRect TextArea(const Label& label) {
+  return Measure(label).area.marginsAdded(PlaqueMargins + QMarginsF(2, 2, 2, 3)).toAlignedRect();
+}
+
+void PaintLabel(QPainter& painter, const Label& label, const Scene& scene) {
+  if (!HasText(label)) return;
+  const Lines lines = Measure(label);
+  const Ink ink = InkOn(GroundUnder(label, scene.order), label);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (ink.under == Ink::Under::Plaque) PaintPlaque(painter, lines.area);
+  if (ink.under == Ink::Under::Lamp) PaintLamp(painter, lines.area);
+  painter.setFont(lines.font);
+  painter.setPen(ink.color);
+  const QFontMetricsF metrics(lines.font);
+  double baseline = lines.area.top() + lines.ascent;
+  for (const QString& text : lines.texts) {
+    const double x = LeftOf(label.Alignment(), lines.area, metrics.horizontalAdvance(text));
+    painter.drawText(QPointF(x, baseline), text);
+    baseline += lines.height;
+  }
+  painter.restore();
+}
+
+}  // namespace ui::qt
