@@ -1,6 +1,7 @@
 // The catalogue of games: the one place that names them.
 #include "games/catalogue.h"
 
+#include "games/pellow/window.h"
 #include "games/quindle/window.h"
 
 namespace games {
@@ -22,6 +23,14 @@ const core::GameEntry Entries[] = {
      175000,
      90,
      Make<quindle::frmQuindle>},
+    {"Pellow!",
+     "cmdPellow",
+     "&Pellow",
+     "Pellow Hi Score Table ",
+     {30000, 50000, 50000},
+     140000,
+     45,
+     Make<pellow::frmPellow>},
 };
 
 }  // namespace

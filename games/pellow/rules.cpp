@@ -2,37 +2,19 @@
 #include "games/pellow/rules.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/cards/card.h"
 
 namespace games::pellow {
 namespace {
 
-struct Covers {
-  int first;
-  int second;
-};
-
 /// The two cards that cover each position above the lowest row. The end cards of a row of five
 /// have only one neighbour in the next row, and are covered by the end card two rows down as well.
-constexpr std::array<Covers, 18> CoversOf{{{5, 9},
-                                           {5, 6},
-                                           {6, 7},
-                                           {7, 8},
-                                           {8, 13},
-                                           {9, 10},
-                                           {10, 11},
-                                           {11, 12},
-                                           {12, 13},
-                                           {14, 18},
-                                           {14, 15},
-                                           {15, 16},
-                                           {16, 17},
-                                           {17, 22},
-                                           {18, 19},
-                                           {19, 20},
-                                           {20, 21},
-                                           {21, 22}}};
+constexpr int Covers[][2] = {{5, 9},   {5, 6},   {6, 7},   {7, 8},   {8, 13},  {9, 10},
+                             {10, 11}, {11, 12}, {12, 13}, {14, 18}, {14, 15}, {15, 16},
+                             {16, 17}, {17, 22}, {18, 19}, {19, 20}, {20, 21}, {21, 22}};
+constexpr int CoveredPositions = std::size(Covers);
 
 constexpr int FirstStackPosition = 24;
 constexpr int LastFull = 34;  // StackIndex up to which the stack is thick
@@ -63,21 +45,14 @@ void Rules::Deal(const core::Deck& deck) {
   StackCount_ = DeckSize - FirstStackPosition;
 }
 
-// --- what lies where ----------------------------------------------------------------------------
-
 bool Rules::HoldsCard(int position) const {
   if (position == UpPosition) return UpCount_ > 0;
   return position >= 0 && position < FieldSize && onField_.at(position);
 }
 
-const std::string& Rules::FieldCard(int position) const {
-  static const std::string none;
-  return position >= 0 && position < Positions ? FieldCards_.at(position) : none;
-}
-
 bool Rules::IsCardExposed(int position) const {
-  if (position < 0 || position >= static_cast<int>(CoversOf.size())) return true;
-  const auto [first, second] = CoversOf.at(position);
+  if (position < 0 || position >= CoveredPositions) return true;
+  const auto [first, second] = Covers[position];
   return !HoldsCard(first) && !HoldsCard(second);
 }
 
@@ -85,10 +60,10 @@ bool Rules::TopRowCleared() const {
   return std::none_of(onField_.begin(), onField_.begin() + TopRow, [](bool held) { return held; });
 }
 
-Stack Rules::StackShown() const {
-  if (StackIndex_ <= LastFull) return Stack::Full;
-  if (StackIndex_ <= LastHalf) return Stack::Half;
-  return StackIndex_ <= LastBack ? Stack::Back : Stack::Empty;
+std::string Rules::StackPicture() const {
+  if (StackIndex_ <= LastFull) return "FULL";
+  if (StackIndex_ <= LastHalf) return "HALF";
+  return StackIndex_ <= LastBack ? "BACK" : "EMPTY";
 }
 
 bool Rules::LegalMovesRemain() const {
@@ -102,8 +77,6 @@ bool Rules::LegalMovesRemain() const {
   }
   return false;
 }
-
-// --- the moves ----------------------------------------------------------------------------------
 
 ClickResult Rules::PlayCard_Click(int position) {
   if (position == UpPosition && UpCount_ == 0) return {Click::Refused};
@@ -153,9 +126,8 @@ void Rules::TakeFromPile() {
 
 bool Rules::CardStackPicture_Click() {
   if (StackCount_ == 0) return false;
-  --StackCount_;
   FillVacantSpot();
-  TurnStackCard();
+  MoveCardFromStack();
   ClearSelection();
   return true;
 }
@@ -171,17 +143,11 @@ void Rules::FillVacantSpot() {
 bool Rules::MoveCardFromStack() {
   if (StackCount_ == 0) return false;
   --StackCount_;
-  TurnStackCard();
-  return true;
-}
-
-void Rules::TurnStackCard() {
   ++UpCount_;
   FieldCards_[UpPosition] = UpPile_.at(UpCount_) = FieldCards_.at(StackIndex_);
   ++StackIndex_;
+  return true;
 }
-
-// --- what a round pays --------------------------------------------------------------------------
 
 std::vector<Award> Rules::Awards(const Scoring& scoring, int secondsLeft, bool FieldCleared) const {
   const std::int64_t cleared = FieldCleared ? 1 : 0;

@@ -3,9 +3,7 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/cards/deck.h"
@@ -41,15 +39,13 @@ struct ClickResult {
   bool topRowCleared = false;    ///< the round is over
 };
 
-enum class Stack { Full, Half, Back, Empty };
-
 /// One bonus of a round, in the order of paying.
 struct Award {
   enum class Kind { Completion, Speed, Pairs, Runs, CardsRemaining };
   Kind kind;
   std::int64_t count;
   std::int64_t value;  ///< of one; that of a second is not known here
-  std::string_view title;
+  std::string title;
 };
 
 enum class Next { RoundTwo, BonusRound, GameOver };
@@ -80,9 +76,10 @@ class Rules {
 
   bool HoldsCard(int position) const;
   /// The key at a position. A field card that has gone leaves its old key behind.
-  const std::string& FieldCard(int position) const;
+  const std::string& FieldCard(int position) const { return FieldCards_.at(position); }
   bool IsSelected(int position) const { return CardSelected_ == 1 && SelectedCard_ == position; }
-  Stack StackShown() const;
+  /// The key of the picture that the stack shows.
+  std::string StackPicture() const;
   int UpCount() const { return UpCount_; }
   std::int32_t StackCount() const { return StackCount_; }
   std::int32_t PairCount() const { return PairCount_; }
@@ -97,7 +94,6 @@ class Rules {
   void TakeFromPile();
   void FillVacantSpot();
   bool MoveCardFromStack();
-  void TurnStackCard();
 
   std::array<std::string, DeckSize + 1> FieldCards_;
   std::array<bool, FieldSize> onField_{};
