@@ -85,7 +85,9 @@ void GameWindow::ShowTableTop() {
 }
 
 void GameWindow::Resized() {
-  if (GameRunning() && StopsWhenMinimized() && !shared.ScoringBusy) StopOrGoOnMinimized();
+  // Pause can be used in a round only: not while one is scored, nor at the end of a game.
+  const bool inRound = GameRunning() && cmdPause.Enabled() && !shared.ScoringBusy;
+  if (inRound && StopsWhenMinimized()) StopOrGoOnMinimized();
   if (State() == ui::WindowState::Minimized) return;
   if (BelowSmallest()) {
     NormalSize = words_.smallestSize;
@@ -101,6 +103,10 @@ void GameWindow::StopOrGoOnMinimized() {
   if (!minimized && Paused()) return;
   minimized ? StopMusic() : StartMusic();
   for (ui::Timer* timer : GameTimers()) timer->Enabled = !minimized;
+}
+
+bool GameWindow::StandsStill() const {
+  return StopsWhenMinimized() && State() == ui::WindowState::Minimized;
 }
 
 bool GameWindow::BelowSmallest() const {

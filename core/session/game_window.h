@@ -243,6 +243,7 @@ class GameWindow : public ui::Window, public TableOwner {
   void Pause();
   void Resume();
   void StopOrGoOnMinimized();
+  bool StandsStill() const;  ///< minimized, in a game that stops then
   bool BelowSmallest() const;
   void PlaceFrame(ui::Size inner);
   ui::Handler HandlerOf(Command command);

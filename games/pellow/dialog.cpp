@@ -55,6 +55,7 @@ core::ScoringTable frmPellow::ScoringTableOfDialog() {
   core::ScoringTable table;
   table.window = "frmPellowCustomScoring";
   table.frame = "frmScoringOptions";
+  table.replacesBeforeMessage = true;
   table.items = {
       Field("txtPairsBonus", "Pairs Bonus Value:", scoring_.PairsBonus,
             UpTo(Highest, "pairs bonus value", "more", " points"), Standard.PairsBonus),
