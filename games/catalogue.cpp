@@ -1,6 +1,7 @@
 // The catalogue of games: the one place that names them.
 #include "games/catalogue.h"
 
+#include "games/glimmard/window.h"
 #include "games/quindle/window.h"
 
 namespace games {
@@ -22,6 +23,14 @@ const core::GameEntry Entries[] = {
      175000,
      90,
      Make<quindle::frmQuindle>},
+    {"Glimmard!",
+     "cmdPhrase",
+     "&Glimmard",
+     "Glimmard Hi Score Table ",
+     {30000, 30000, 30000},
+     430000,
+     45,
+     Make<glimmard::frmPhrase>},
 };
 
 }  // namespace
