@@ -18,7 +18,7 @@ void PaintSunken(QPainter& painter, const QRectF& box) {
   painter.fillRect(box, QColor(tone::Wood).darker(140));
   painter.fillRect(box.adjusted(1, 1, 0, 0), QColor(tone::Box));
   QLinearGradient depth(box.topLeft(), box.topLeft() + QPointF(0, 7));
-  depth.setColorAt(0, QColor(60, 45, 10, 90));
+  depth.setColorAt(0, QColor(60, 45, 10, 60));
   depth.setColorAt(1, QColor(60, 45, 10, 0));
   painter.fillRect(box.adjusted(1, 1, -1, -1), depth);
 }
@@ -71,19 +71,20 @@ void PaintGroup(QPainter& painter, const QRectF& place, const QString& caption, 
   painter.drawText(plate, Qt::AlignCenter, caption);
 }
 
-void ShadeEdge(QPainter& painter, const QRect& strip, QPoint from, QPoint to) {
+void ShadeEdge(QPainter& painter, const QRect& strip, const QRect& part, QPoint from, QPoint to) {
   QLinearGradient shade(from, to);
-  shade.setColorAt(0, QColor(0, 0, 0, 70));
+  shade.setColorAt(0, QColor(0, 0, 0, 60));
   shade.setColorAt(1, QColor(0, 0, 0, 0));
-  painter.fillRect(strip, shade);
+  painter.fillRect(strip & part, shade);
 }
 
+/// The table falls off to its edges.
 void ShadeEdges(QPainter& painter, QSize size, const QRect& part) {
   const int w = size.width(), h = size.height(), e = EdgeShade;
-  if (part.top() < e) ShadeEdge(painter, QRect(0, 0, w, e), {0, 0}, {0, e});
-  if (part.bottom() >= h - e) ShadeEdge(painter, QRect(0, h - e, w, e), {0, h}, {0, h - e});
-  if (part.left() < e) ShadeEdge(painter, QRect(0, 0, e, h), {0, 0}, {e, 0});
-  if (part.right() >= w - e) ShadeEdge(painter, QRect(w - e, 0, e, h), {w, 0}, {w - e, 0});
+  ShadeEdge(painter, QRect(0, 0, w, e), part, {0, 0}, {0, e});
+  ShadeEdge(painter, QRect(0, h - e, w, e), part, {0, h}, {0, h - e});
+  ShadeEdge(painter, QRect(0, 0, e, h), part, {0, 0}, {e, 0});
+  ShadeEdge(painter, QRect(w - e, 0, e, h), part, {w, 0}, {w - e, 0});
 }
 
 }  // namespace

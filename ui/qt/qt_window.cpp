@@ -56,6 +56,7 @@ void QtWindow::MakeControls() {
     LayOutForm(board_, model_->Layout(), [this](Control& control, QWidget* parent) {
       auto mirror = MakeDialogMirror(*this, control, parent);
       mirror->LeaveToLayout();
+      mirror->Sync();
       mirrors_.push_back(std::move(mirror));
       return mirrors_.back()->Widget();
     });
@@ -333,6 +334,10 @@ void QtWindow::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
   if ((key == Qt::Key_Return || key == Qt::Key_Enter) && PressButton(Button::Role::Default)) return;
   if (key == Qt::Key_Escape && PressButton(Button::Role::Cancel)) return;
+  if (key == Qt::Key_Escape && model_->IsModal()) {
+    close();
+    return;
+  }
   const QString text = event->text();
   const auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
   if (text.isEmpty() || !text.at(0).isPrint() || event->modifiers() & others) {
