@@ -59,6 +59,7 @@ Window* Board::Model() const {
 void Board::paintEvent(QPaintEvent* event) {
   const Window* window = Model();
   if (!window) return;
+  hasBeenPainted_ = true;
   QPainter painter(this);
   const auto order = PaintingOrder(*window);
   const Scene scene{host_.Platform().Pictures(), devicePixelRatioF(), order};

@@ -25,6 +25,7 @@ class Board : public QWidget {
   void ControlChanged(Control& control);
   /// Where the controls lie on top of each other, the topmost that takes the pointer; null for none.
   Control* ControlAt(QPoint at) const;
+  bool HasBeenPainted() const { return hasBeenPainted_; }
   /// The painted controls that a person would want to be told of, in painting order.
   std::vector<Control*> Readable() const;
 
@@ -58,6 +59,7 @@ class Board : public QWidget {
   std::unordered_map<const Control*, QRect> painted_;
   Control* pressed_ = nullptr;
   QPoint pointer_{-1, -1};
+  bool hasBeenPainted_ = false;
   bool focusShown_ = false;
   Target focus_;
 };

@@ -125,10 +125,10 @@ void PaintPlaque(QPainter& painter, const QRectF& around) {
   painter.restore();
 }
 
-void PaintLamp(QPainter& painter, const QRectF& around) {
+void PaintLamp(QPainter& painter, const QRectF& around, const QRectF& place) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(tone::Lamp));
-  painter.drawRoundedRect(around.marginsAdded(LampMargins), 4, 4);
+  painter.drawRoundedRect(around.marginsAdded(LampMargins) & (around | place), 4, 4);
 }
 
 bool HasText(const Label& label) {
@@ -148,7 +148,7 @@ void PaintLabel(QPainter& painter, const Label& label, const Scene& scene) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   if (ink.under == Ink::Under::Plaque) PaintPlaque(painter, lines.area);
-  if (ink.under == Ink::Under::Lamp) PaintLamp(painter, lines.area);
+  if (ink.under == Ink::Under::Lamp) PaintLamp(painter, lines.area, ToQt(label.PlaceInWindow()));
   painter.setFont(lines.font);
   painter.setPen(ink.color);
   const QFontMetricsF metrics(lines.font);

@@ -196,7 +196,8 @@ void QtWindow::SyncControls() {
 void QtWindow::SyncWindow() {
   windowChanged_ = false;
   setWindowTitle(ToQt(model_->Caption()));
-  if (model_->Hourglass()) {
+  // The pointer's picture is not worth the time before the first frame.
+  if (model_->Hourglass() && board_->HasBeenPainted()) {
     setCursor(Qt::WaitCursor);
     board_->setCursor(Qt::WaitCursor);
   } else if (cursor().shape() == Qt::WaitCursor) {
