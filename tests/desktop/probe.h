@@ -12,6 +12,8 @@ class QtPlatform;
 ///
 ///   place NAME      "X Y W H" on the screen in device pixels, or "none"
 ///   text NAME       what a label, button, field or panel reads
+///   spoken NAME     what a screen reader finds at its middle: "button " for what can be pressed,
+///                   and its name
 ///   windows         names of the open windows, the active one first
 class Probe {
  public:

@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "ui/qt/accessible.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/painters.h"
 #include "ui/qt/painting_order.h"
@@ -92,6 +93,7 @@ void Board::ControlChanged(Control& control) {
     painted_.erase(before);
   }
   if (!region.isEmpty()) update(region);
+  TellNameChanged(*this, control);
   if (ToQt(control.PlaceInWindow()).contains(pointer_)) UpdatePointer();
   if (&control == focus_.control && !control.Usable()) ShowFocus(false);
 }
@@ -203,7 +205,6 @@ bool Board::event(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     return ShowTip(help->pos(), help->globalPos());
   }
-  if (event->type() == QEvent::CursorChange && Model()) return QWidget::event(event);
   return QWidget::event(event);
 }
 
