@@ -6,6 +6,11 @@
 
 namespace ui {
 
+bool TakesFocus(Kind kind) {
+  constexpr Kind kinds[] = {Kind::Button, Kind::Field, Kind::Check, Kind::Option, Kind::List};
+  return std::find(std::begin(kinds), std::end(kinds), kind) != std::end(kinds);
+}
+
 Window* Desk::ActiveWindow() const {
   const auto shown = std::find_if(windows_.begin(), windows_.end(),
                                   [](const Window* w) { return !w->IsHidden(); });
@@ -47,24 +52,31 @@ void Desk::UserClick(Control& control) {
       UserCheck(static_cast<Check&>(control), true);
       return;
     case Kind::Field:
+    case Kind::List:
       UserFocus(control);
       return;
     default:
-      Run(control.OnClick);
+      Run([&] {
+        if (TakesFocus(control.GetKind())) SetFocus(control);
+        if (control.OnClick && control.Owner().IsOpen()) control.OnClick();
+      });
   }
 }
 
 void Desk::UserPress(Surface& surface, int x, int y) {
   if (surface.Owner().DropsInput) return;
-  UserMove(surface, x, y);
-  if (surface.OnMouseDown) Run([&] { surface.OnMouseDown(x, y); });
-  if (!surface.Owner().IsOpen()) return;
-  if (surface.OnMouseUp) Run([&] { surface.OnMouseUp(x, y); });
+  // One handler for all of it, so that the window is not destroyed in between.
+  Run([&] {
+    const Window& window = surface.Owner();
+    UserMove(surface, x, y);
+    if (window.IsOpen() && surface.OnMouseDown) Run([&] { surface.OnMouseDown(x, y); });
+    if (window.IsOpen() && surface.OnMouseUp) Run([&] { surface.OnMouseUp(x, y); });
+    if (window.IsOpen()) Run(surface.OnClick);
+  });
 }
 
 void Desk::UserMove(Control& control) {
   if (control.Owner().DropsInput) return;
-
   Run(control.OnMouseMove);
 }
 
@@ -73,21 +85,42 @@ void Desk::UserMove(Surface& surface, int x, int y) {
   if (surface.OnMouseMoveAt) Run([&] { surface.OnMouseMoveAt(x, y); });
 }
 
+void Desk::UserMoveBeside(Window& window) {
+  if (window.DropsInput) return;
+  Run([&] { window.MouseMove(); });
+}
+
+void Desk::UserStrike(Window& window, char32_t letter) {
+  if (window.DropsInput) return;
+  Run([&] { window.KeyTyped(letter); });
+}
+
 void Desk::UserType(Field& field, const std::string& text) {
   if (field.Owner().DropsInput) return;
-  UserFocus(field);
-  Run([&] { field.Text = text; });
+  Run([&] {
+    SetFocus(field);
+    const bool same = field.Text() == text;
+    field.Text = text;
+    // Typing is a change, also when it ends in the same text.
+    if (same && field.OnChange) field.OnChange();
+  });
 }
 
 void Desk::UserChoose(List& list, int index) {
   if (list.Owner().DropsInput) return;
-  list.Index = index;
-  Run(list.OnClick);
+  Run([&] {
+    SetFocus(list);
+    list.Index = index;
+    if (list.OnClick) list.OnClick();
+  });
 }
 
 void Desk::UserCheck(Check& check, bool checked) {
   if (check.Owner().DropsInput) return;
-  Run([&] { check.Checked = checked; });
+  Run([&] {
+    SetFocus(check);
+    check.Checked = checked;
+  });
 }
 
 void Desk::UserFocus(Control& control) {
@@ -112,9 +145,20 @@ std::string Desk::ArtworkOf(std::string_view key) const {
   return artwork_ ? artwork_(key) : std::string(key);
 }
 
+Control* Desk::Focus() const {
+  const Window* active = ActiveWindow();
+  return active ? FocusOf(*active) : nullptr;
+}
+
+Control* Desk::FocusOf(const Window& window) const {
+  const auto found = focus_.find(&window);
+  return found == focus_.end() ? nullptr : found->second;
+}
+
 void Desk::SetFocus(Control& control) {
-  if (focus_ == &control) return;
-  focus_ = &control;
+  Control*& focus = focus_[&control.Owner()];
+  if (focus == &control) return;
+  focus = &control;
   if (control.OnGotFocus) control.OnGotFocus();
 }
 
@@ -124,7 +168,14 @@ void Desk::Opened(Window& window, bool modal) {
   window.hidden_ = false;
   window.modal_ = modal;
   RaiseToTop(window);
-  if (fresh) window.Resized();
+  if (fresh) {
+    // A window that was never opened may have left its focus behind at the same address.
+    const auto& controls = window.Controls();
+    if (std::find(controls.begin(), controls.end(), FocusOf(window)) == controls.end()) {
+      focus_.erase(&window);
+    }
+    window.Resized();
+  }
   window.Activate();
 }
 
@@ -135,7 +186,7 @@ void Desk::WasHidden(Window& window) {
 void Desk::Closed(Window& window) {
   window.open_ = false;
   std::erase(windows_, &window);
-  if (focus_ && &focus_->Owner() == &window) focus_ = nullptr;
+  focus_.erase(&window);
 }
 
 void Desk::RaiseToTop(Window& window) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -9,6 +10,9 @@
 #include "ui/window.h"
 
 namespace ui {
+
+/// Whether a player can give the focus to controls of that kind.
+bool TakesFocus(Kind kind);
 
 /// Keeps the open windows, the focus and the handlers at work. Does not own open windows; takes
 /// over closed ones with Bury until nothing of them can be at work any more.
@@ -18,7 +22,10 @@ class Desk : public Platform {
   const std::vector<Window*>& Windows() const { return windows_; }
   /// The window that takes the player's input; null if none is shown.
   Window* ActiveWindow() const;
-  Control* Focus() const { return focus_; }
+  /// The control of the active window that has the focus; null if none has.
+  Control* Focus() const;
+  /// The control that has the focus whenever that window is active; null if none has.
+  Control* FocusOf(const Window& window) const;
 
   /// Runs a handler for an event. What it throws ends it and is shown as the system's error text.
   void Run(const std::function<void()>& handler);
@@ -32,6 +39,8 @@ class Desk : public Platform {
   void UserPress(Surface& surface, int x, int y);
   void UserMove(Control& control);
   void UserMove(Surface& surface, int x, int y);
+  void UserMoveBeside(Window& window);  ///< over the window beside its controls
+  void UserStrike(Window& window, char32_t letter);
   void UserType(Field& field, const std::string& text);
   void UserChoose(List& list, int index);
   void UserCheck(Check& check, bool checked);
@@ -73,7 +82,7 @@ class Desk : public Platform {
 
   std::vector<Window*> windows_;
   std::vector<std::unique_ptr<Window>> dead_;
-  Control* focus_ = nullptr;
+  std::map<const Window*, Control*> focus_;  ///< each open window remembers its own
   int depth_ = 0;
   std::function<std::string(std::string_view)> artwork_;
   std::function<std::string(const std::string&)> describe_;

@@ -75,10 +75,15 @@ Size Window::OuterFor(Size inner) const {
 bool Window::Unload() {
   if (unloading_ || !open_) return !open_;
   if (!QueryClose() || unloading_ || !open_) return !open_;
-  unloading_ = true;
+  // Also when one of the last acts fails: the player must be able to try again.
+  struct Mark {
+    explicit Mark(bool& flag) : flag(flag) { flag = true; }
+    ~Mark() { flag = false; }
+    bool& flag;
+  };
+  const Mark mark(unloading_);
   Unloading();
   platform_.Close(*this);
-  unloading_ = false;
   return true;
 }
 

@@ -121,6 +121,8 @@ void frmSelect::NextBack(bool backsWereShown) {
 }
 
 void frmSelect::StartGame(const GameEntry& entry) {
+  // A window that is just being loaded can ask the player something: no second one meanwhile.
+  if (Hourglass() || (game_ && game_->IsOpen())) return;
   Hourglass = true;
   suite_.shared.GameTitle = entry.title;
   try {

@@ -14,8 +14,10 @@ class frmSelect : public ui::Window {
  public:
   explicit frmSelect(Suite& suite);
 
- private:
+  /// Starts the program up; shows the window in the midst of it.
   void Load() override;
+
+ private:
   void Unloading() override;
   void Resized() override;
 

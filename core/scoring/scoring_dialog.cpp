@@ -197,9 +197,13 @@ bool ScoringDialog::Passes(NumberField& field) {
 
 void ScoringDialog::Refuse(NumberField& field, const FieldTest& test) {
   const bool clamping = table_.refusal == Refusal::Clamping;
+  const auto replace = [&] {
+    if (test.stores) field.store(static_cast<double>(*test.stores));
+    if (test.shows) SetText(field.name, test.shows(*this));
+  };
+  if (table_.replacesBeforeMessage) replace();
   suite_.Tell(clamping ? ui::Sign::Information : ui::Sign::Exclamation, test.message);
-  if (test.stores) field.store(static_cast<double>(*test.stores));
-  if (test.shows) SetText(field.name, test.shows(*this));
+  if (!table_.replacesBeforeMessage) replace();
   suite_.platform.SetFocus(Named(field.name));
 }
 

@@ -124,6 +124,7 @@ struct ScoringTable {
   std::string frame;              ///< "frmScoringOptions"
   std::vector<DialogItem> items;  ///< in the order of the layout
   Refusal refusal = Refusal::Clamping;
+  bool replacesBeforeMessage = false;  ///< a refused value is replaced before the message stands
   /// The fields in the order of their tests; empty: the order of the layout.
   std::vector<std::string> testOrder = {};
 

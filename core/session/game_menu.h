@@ -41,6 +41,11 @@ struct MenuRow {
   std::vector<MenuRow> entries = {};
 };
 
+/// A row that holds others, and does nothing itself.
+inline MenuRow Heading(std::string name, std::string caption, std::vector<MenuRow> entries) {
+  return {std::move(name), std::move(caption), Command::Other, {}, std::move(entries)};
+}
+
 /// A time limit that the player can choose; its entry is named "mnu" and the seconds.
 struct TimeEntry {
   int seconds;

@@ -40,6 +40,7 @@ GameWindow::GameWindow(Suite& suite, const GameEntry& entry, Vocabulary words)
       entry_(entry),
       words_(std::move(words)) {
   cmdPause.Enabled = false;
+  Score.Number.Text = "0";
   Message.Visible = false;
   Message.FontSize = 18;
   Message.Bold = true;
@@ -84,7 +85,9 @@ void GameWindow::ShowTableTop() {
 }
 
 void GameWindow::Resized() {
-  if (GameRunning() && StopsWhenMinimized() && !shared.ScoringBusy) StopOrGoOnMinimized();
+  // Pause can be used in a round only: not while one is scored, nor at the end of a game.
+  const bool inRound = GameRunning() && cmdPause.Enabled() && !shared.ScoringBusy;
+  if (inRound && StopsWhenMinimized()) StopOrGoOnMinimized();
   if (State() == ui::WindowState::Minimized) return;
   if (BelowSmallest()) {
     NormalSize = words_.smallestSize;
@@ -100,6 +103,10 @@ void GameWindow::StopOrGoOnMinimized() {
   if (!minimized && Paused()) return;
   minimized ? StopMusic() : StartMusic();
   for (ui::Timer* timer : GameTimers()) timer->Enabled = !minimized;
+}
+
+bool GameWindow::StandsStill() const {
+  return StopsWhenMinimized() && State() == ui::WindowState::Minimized;
 }
 
 bool GameWindow::BelowSmallest() const {

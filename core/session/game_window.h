@@ -48,7 +48,11 @@ struct Vocabulary {
   std::string maximizedHeight = "7200";
 
   std::vector<TimeEntry> timeEntries;
-  std::vector<DeckEntry> deckEntries;
+  /// The usual numbers of the designs.
+  std::vector<DeckEntry> deckEntries{{"mnuPalm", "&Palm Tree", Design::Palm, 1},
+                                     {"mnuMagic", "&Magic Hands", Design::Magic, 2},
+                                     {"mnuNight", "&Night Castle", Design::Night, 3},
+                                     {"mnuHot", "&Hot Cards", Design::Hot, 4}};
   /// Entries that are disabled while a game runs, besides those of limit, scoring and music file.
   std::vector<std::string> fixedInGame;
 };
@@ -239,6 +243,7 @@ class GameWindow : public ui::Window, public TableOwner {
   void Pause();
   void Resume();
   void StopOrGoOnMinimized();
+  bool StandsStill() const;  ///< minimized, in a game that stops then
   bool BelowSmallest() const;
   void PlaceFrame(ui::Size inner);
   ui::Handler HandlerOf(Command command);

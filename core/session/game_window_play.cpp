@@ -89,7 +89,8 @@ void GameWindow::StartClock() {
   shared.TimerFaceTick = 0;
   Clock.InitTimerFace();
   Clock.WriteTime();
-  Timer1.Enabled = true;
+  // The window may have been minimized while the round before was scored.
+  Timer1.Enabled = !StandsStill();
   ShowTimerGroup(true);
 }
 
@@ -140,7 +141,7 @@ void GameWindow::Pause() {
 
 void GameWindow::Resume() {
   HideMessage();
-  for (ui::Timer* timer : GameTimers()) timer->Enabled = true;
+  for (ui::Timer* timer : GameTimers()) timer->Enabled = !StandsStill();
   ShowCaptionOfPause(false);
   EnableRoundCommands(true);
   ResumeBoard();
@@ -207,7 +208,7 @@ bool GameWindow::Ask(const std::string& question) {
 }
 
 void GameWindow::StartMusic() {
-  if (shared.PlayMusic) suite.PlayMidi();
+  if (shared.PlayMusic && !StandsStill()) suite.PlayMidi();
 }
 
 void GameWindow::StopMusic() {

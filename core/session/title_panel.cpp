@@ -6,7 +6,7 @@
 namespace core {
 namespace {
 
-constexpr ui::Size PanelSize{460, 250};
+constexpr ui::Size PanelSize{430, 250};  // leaves the buttons of the smallest window free
 constexpr ui::Size CardSize{69, 94};
 constexpr int Spacing = 12;
 

@@ -34,7 +34,7 @@ constexpr Spot Spots[FieldSlots] = {
     {2, 2},  {3, 2},    {-3.5, 3}, {-2.5, 3}, {-1.2, 3}, {1.2, 3}, {2.5, 3}, {3.5, 3},
     {-3, 4}, {-2, 4},   {2, 4},    {3, 4},    {-2.5, 5}, {2.5, 5}};
 constexpr int RowStep = 31;
-constexpr int ColumnStep = 70;
+constexpr int ColumnStep = 66;
 
 core::Vocabulary Words() {
   core::Vocabulary words;

@@ -88,6 +88,8 @@ class Probe::Reader {
         return static_cast<const ui::Field&>(control).Text();
       case ui::Kind::Panel:
         return static_cast<const ui::Panel&>(control).Text();
+      case ui::Kind::Picture:
+        return static_cast<const ui::Picture&>(control).Key();
       case ui::Kind::Menu:
         return static_cast<const ui::Menu&>(control).Text();
       default:

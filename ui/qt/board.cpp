@@ -153,7 +153,7 @@ void Board::Move(QPoint at) {
   Control* control = ControlAt(at);
   if (!control) {
     host_.Platform().Act(*window, [this] {
-      if (Window* open = Model()) host_.Platform().Run([open] { open->MouseMove(); });
+      if (Window* open = Model()) host_.Platform().UserMoveBeside(*open);
     });
   } else if (control->GetKind() == Kind::Surface) {
     auto& surface = static_cast<Surface&>(*control);

@@ -114,7 +114,7 @@ void QtWindow::Open(bool modal, const QtWindow* above) {
   }
   show();
   ComeForward();
-  if (platform_.Focus() && &platform_.Focus()->Owner() == model_) TakeFocus(*platform_.Focus());
+  if (Control* focus = platform_.FocusOf(*model_)) TakeFocus(*focus);
   if (!focusWidget()) {
     board_->setFocus(Qt::OtherFocusReason);
     if (!model_->Layout().Empty()) focusNextChild();
@@ -244,7 +244,7 @@ void QtWindow::Act(Control& control, std::function<void()> act) {
 }
 
 void QtWindow::FocusMoved(Control& control) {
-  if (syncing_ || !model_ || platform_.Focus() == &control) return;
+  if (syncing_ || !model_ || platform_.FocusOf(*model_) == &control) return;
   Act(control, [this, &control] { platform_.UserFocus(control); });
 }
 
@@ -348,7 +348,7 @@ void QtWindow::keyPressEvent(QKeyEvent* event) {
   for (const char32_t letter : text.toStdU32String()) {
     if (!model_) return;
     platform_.Act(*model_, [this, letter] {
-      if (model_) platform_.Run([this, letter] { model_->KeyTyped(letter); });
+      if (model_) platform_.UserStrike(*model_, letter);
     });
   }
 }
