@@ -174,6 +174,8 @@ class GameWindow : public ui::Window, public TableOwner {
   /// Swaps the label between red and black so many times, with a wait after each.
   void Flash(ui::Label& label, int times, int milliseconds = 250);
   void WriteScore();
+  /// Adds to the score and shows it.
+  void AddPoints(std::int64_t points);
 
   /// Serves what the player did while a round was scored, without effect.
   void ServeAndDrop();
@@ -199,7 +201,7 @@ class GameWindow : public ui::Window, public TableOwner {
   void CreateTableIfMissing();
   void ShowTableTop();
   /// "Game Over" for a while, then the title panel.
-  void ShowGameOver(int milliseconds);
+  void ShowGameOver(int milliseconds, ui::Color color = ui::Red);
   void ShowTitle(bool visible);
 
   /// "Make " and a score, then `ending`, on the first panel.
