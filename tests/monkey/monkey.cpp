@@ -244,6 +244,8 @@ void Monkey::CheckFiles() {
     if (name.find(" Hi Score Table ") != std::string::npos) {
       const auto rows = core::ParseTable(*text);
       if (rows.size() != core::scoreRows || core::FormatTable(rows) != *text) Fail(name);
+      // Tables within reach, so that the monkey comes to the windows behind a good score.
+      core::WriteWhole(entry.path().string(), core::FormatTable(core::NewTable(Below(500))));
     }
     if (core::EndsWithAnyCase(name, ".ini") && !core::EndsWith(*text, "\r\n\r\n")) Fail(name);
     if (name.starts_with(".pastimo-")) Fail("left over: " + name);
