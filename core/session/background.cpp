@@ -1,0 +1,31 @@
+// The picture that a player can put behind the board.
+#include "core/session/background.h"
+
+namespace core {
+
+void Background::Show() {
+  image_ = suite_.platform.CanShowPicture(path_) ? path_ : "";
+}
+
+void Background::Choose() {
+  const auto path = suite_.platform.AskFile(
+      {.purpose = ui::FileDialog::Purpose::Open,
+       .title = "Select Background Image",
+       .filter = "Pictures (*.bmp;*.gif;*.ico;*.jpg)|*.bmp;*.gif;*.ico;*.jpg",
+       .defaultExtension = "*.bmp",
+       .fileName = "*.bmp"});
+  if (!path || path->empty()) return;
+  if (!suite_.platform.CanShowPicture(*path)) {
+    suite_.Tell(ui::Sign::Exclamation, "Unable to show '" + *path + "' as a picture.");
+    return;
+  }
+  path_ = *path;
+  Show();
+}
+
+void Background::Clear() {
+  path_.clear();
+  Show();
+}
+
+}  // namespace core
