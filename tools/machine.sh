@@ -5,7 +5,7 @@ build_packages="g++ cmake ninja-build"
 desktop_packages="qt6-base-dev qt6-svg-dev libsdl2-mixer-dev timgm6mb-soundfont xdg-utils
   fonts-dejavu-core"
 display_packages="xvfb xauth"
-test_packages="xdotool x11-utils imagemagick openbox"
+test_packages="python3 xdotool x11-utils imagemagick openbox"
 
 say() { printf '%s\n' "$*"; }
 

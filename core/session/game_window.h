@@ -159,6 +159,8 @@ class GameWindow : public ui::Window, public TableOwner {
   void ShowRunningCommands();
   void ShowIdleCommands();
   void EnableFixedMenus(bool enabled);
+  /// All of a game's commands, as while a round is scored they are off.
+  void EnableCommands(bool enabled);
   void EnableRoundCommands(bool enabled);  ///< Play, Exit and Take Score, with their entries
   void ShowCaptionOfPlay(bool running);
   void ShowCaptionOfPause(bool paused);

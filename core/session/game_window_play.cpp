@@ -69,10 +69,18 @@ void GameWindow::ShowRunningCommands() {
 
 void GameWindow::ShowIdleCommands() {
   ShowCaptionOfPlay(false);
+  cmdPlay.Enabled = cmdExit.Enabled = true;
+  Menus.Enable(true, {Command::Play, Command::Exit});
   cmdPause.Enabled = false;
   if (TakeScoreButton()) TakeScoreButton()->Enabled = false;
   Menus.Enable(false, {Command::Pause, Command::TakeScore});
   EnableFixedMenus(true);
+}
+
+void GameWindow::EnableCommands(bool enabled) {
+  EnableRoundCommands(enabled);
+  cmdPause.Enabled = enabled;
+  Menus.Enable(enabled, {Command::Pause});
 }
 
 void GameWindow::EnableRoundCommands(bool enabled) {

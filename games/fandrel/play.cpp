@@ -71,7 +71,6 @@ void frmFandrel::AskToEndGame() {
   shared.GameActive = false;
   HideMessage();
   ShowCaptionOfPause(false);
-  EnableRoundCommands(true);
   ShowIdleCommands();
   ShowCards(false);
   ShowControls(false, false);
@@ -228,8 +227,6 @@ void frmFandrel::EndGame() {
   UpdateTable();
   lblHighScore.Visible = false;
   ShowIdleCommands();
-  cmdPlay.Enabled = true;
-  cmdExit.Enabled = true;
   ShowMessage("Game Over", ui::Red);
   Wait(GameOverPause);
   StatusBar1(1).Text = "Game over!  ";

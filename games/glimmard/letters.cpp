@@ -78,9 +78,7 @@ void frmPhrase::PlayBonusPicks() {
 void frmPhrase::cmdSolve_Click() {
   if (shared.ScoringBusy) return;
   Timer1.Enabled = false;
-  EnableRoundCommands(false);
-  cmdPause.Enabled = false;
-  Menus.Enable(false, {core::Command::Pause});
+  EnableCommands(false);
   ProgressBar1.Value = 0;
   if (rules_.Solve()) EnableVowels(true);
 }

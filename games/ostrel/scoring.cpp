@@ -27,9 +27,7 @@ void frmOstrel::TakeScore() {
 
 void frmOstrel::ShutTable() {
   StopClock();
-  EnableRoundCommands(false);
-  cmdPause.Enabled = false;
-  Menus.Enable(false, {core::Command::Pause});
+  EnableCommands(false);
   rules_.CurrentRun = 0;
   ClearPointers();
   Hourglass = true;
@@ -86,8 +84,6 @@ void frmOstrel::GameOver() {
   FinishGame();
   imgBackGround.Visible = false;
   ShowGameOver(GameOverPause);
-  cmdPlay.Enabled = cmdExit.Enabled = true;
-  Menus.Enable(true, {core::Command::Play, core::Command::Exit});
   shared.ScoringBusy = false;
 }
 

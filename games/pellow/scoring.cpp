@@ -25,9 +25,7 @@ void frmPellow::CloseRound(bool FieldCleared) {
 void frmPellow::ShutTable() {
   ClearMouseIcon();
   PauseBoard();
-  EnableRoundCommands(false);
-  cmdPause.Enabled = false;
-  Menus.Enable(false, {core::Command::Pause});
+  EnableCommands(false);
   Hourglass = true;
   StopMusic();
 }
@@ -63,8 +61,6 @@ void frmPellow::PrepareFor(const std::string& title, const std::string& wave) {
 void frmPellow::GameOver() {
   Hourglass = false;
   FinishGame();
-  cmdPlay.Enabled = cmdExit.Enabled = true;
-  Menus.Enable(true, {core::Command::Play, core::Command::Exit});
   ShowGameOver(GameOverPause);
   ServeAndDrop();
   shared.ScoringBusy = false;

@@ -121,7 +121,7 @@ void frmQuindle::StartRound(int round) {
   ChooseRoundDeck(round);
   Deal(false);
   HideMessage();
-  DisableCommandButtons(false);
+  EnableCommands(true);
   ShowControls(true, false);
 }
 
@@ -146,7 +146,6 @@ void frmQuindle::EndGame() {
   Round.Number.Text = "1";
   ShowIdleCommands();
   SetReplayCaption(true);
-  Menus.Enable(true, {core::Command::Play});
   ShowTitle(true);
   StopMusic();
 }

@@ -37,7 +37,7 @@ void frmQuindle::TakeScore() {
   Timer1.Enabled = false;
   Hourglass = true;
   StopMusic();
-  DisableCommandButtons(true);
+  EnableCommands(false);
   HideSelection();
   const bool cleared = rules_.CheckForCompletion();
   FieldCardPicture.Show(false);
@@ -156,12 +156,6 @@ void frmQuindle::PayAtOnce(std::int64_t points) {
   WriteScore();
 }
 
-void frmQuindle::DisableCommandButtons(bool disable) {
-  EnableRoundCommands(!disable);
-  cmdPause.Enabled = !disable;
-  Menus.Enable(!disable, {core::Command::Pause});
-}
-
 void frmQuindle::GoOnAfterRound() {
   if (QuindleRound == 1) {
     ShowMessage("Prepare for Round Two!", ui::Red);
@@ -193,8 +187,6 @@ void frmQuindle::FinishTheGame() {
   UpdateTable();
   ShowIdleCommands();
   SetReplayCaption(true);
-  cmdExit.Enabled = cmdPlay.Enabled = true;
-  Menus.Enable(true, {core::Command::Exit, core::Command::Play});
   Clock.MoveTo(shared.TimeLimit);
   Hourglass = true;
   ReplayGame = false;

@@ -75,7 +75,6 @@ class frmQuindle : public core::GameWindow {
   void EndCount();
   void PayAtOnce(std::int64_t points);
   void GoOnAfterRound();
-  void DisableCommandButtons(bool disable);
 
   // What the board shows.
   void ShowFieldCard(int slot);
