@@ -32,7 +32,8 @@ core::RulesText frmBrenlock::Rules() const {
                                        "Bonus Round.");
   text.points = {
       "Cards come off the deck one at a time. Add each of them to one of the five columns with the "
-      "'Hit' button below it. Kings, Queens and Jacks count 10. An Ace counts 11 if that does not "
+      "'Hit' button below it. Kings, Queens and Jacks count 10, other cards their number. An Ace "
+      "counts 11 if that does not "
       "take its column over 21, and the column then reads 'Soft'; otherwise it counts 1. A card "
       "that would take a soft column over 21 makes the Ace count 1 instead.",
       "A column holds five cards. With the fifth its button reads 'Closed'. A column of 21 is not "

@@ -34,13 +34,13 @@ core::RulesText frmHarvel::Rules() const {
                              " after round three, a fourth one is yours, the Bonus Round.");
   text.points = {
       "Cards come off the deck one at a time. Drop each of them onto one of the four columns with "
-      "the 'Hit' button below it. Kings, Queens and Jacks count 10. An Ace counts 11 if that does "
+      "the 'Hit' button below it. Kings, Queens and Jacks count 10, other cards their number. An "
+      "Ace counts 11 if that does "
       "not take its column over 21, and the column then reads 'Soft'; otherwise it counts 1. A "
       "card that would take a soft column over 21 makes the Ace count 1 instead.",
-      "A column of exactly 21 is cleared and is worth " + step +
-          " points more than the one before: it adds " + step +
-          " to the bonus figure, and at the end of the round the bonus figure is multiplied by the "
-          "number of 21's you have made. Three of them without a break make 3 X " +
+      "A column of exactly 21 is cleared and adds " + step +
+          " to the bonus figure. At the end of the round the bonus figure is multiplied by the "
+          "number of 21's that you have made: three of them in time make 3 X " +
           Masked(std::int64_t{3} * values_.TwentyOneBonusValue) + ".",
       "Every 21 starts the 21 Counter anew, which takes about " +
           CounterSeconds(values_.TimerSpeed) +
@@ -51,7 +51,7 @@ core::RulesText frmHarvel::Rules() const {
       "A column that holds five cards without reaching 21 is a Five Card Gimme: it is cleared and "
       "pays " +
           Masked(values_.FiveCardsBonusValue) +
-          " points at once. It stops no 21 Counter, but winds it back to its start.",
+          " points at once. It also winds the 21 Counter back to its start.",
       "A card that takes a column without a soft Ace over 21 is refused and costs 100 points. You "
       "keep the card, and may try it elsewhere.",
       "At the end of the round each card used pays " + Masked(values_.CardsUsedBonusValue) +
