@@ -133,8 +133,8 @@ void frmPhrase::PlaceBoard(ui::Size inner) {
     const ui::Rect cell{FrameMargin + n % LineCells * CellWidth,
                         CaptionHeight + n / LineCells * CellHeight, CellWidth - CellGap,
                         CellHeight - CellGap};
-    core::CenterIn(label, cell);
     LetterTile(n).Place = cell;
+    core::CenterIn(label, {cell.x + 2, cell.y + 2, cell.w - 4, cell.h - 4});
   });
   const int guesses = fmPhrase.Place().Bottom() + 4 + spare / 4;
   frmGuess.Place = {left, guesses, GuessWidth, GuessHeight};

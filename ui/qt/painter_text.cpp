@@ -18,6 +18,7 @@ constexpr double SmallestTitleShare = 0.6;
 constexpr int MessageSize = 14;         // points; larger texts on the table get a plaque
 constexpr QMarginsF PlaqueMargins{9, 3, 9, 4};
 constexpr QMarginsF LampMargins{6, 1, 6, 1};
+constexpr double CellWidth = 40;  // pixels; a narrower place is lit as a whole
 
 /// How the letters are made to stand out.
 struct Ink {
@@ -128,7 +129,8 @@ void PaintPlaque(QPainter& painter, const QRectF& around) {
 void PaintLamp(QPainter& painter, const QRectF& around, const QRectF& place) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(tone::Lamp));
-  painter.drawRoundedRect(around.marginsAdded(LampMargins) & (around | place), 4, 4);
+  const bool cell = place.width() < CellWidth;
+  painter.drawRoundedRect(cell ? place : around.marginsAdded(LampMargins) & (around | place), 4, 4);
 }
 
 bool HasText(const Label& label) {
