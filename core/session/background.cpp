@@ -15,12 +15,10 @@ void Background::Choose() {
        .defaultExtension = "*.bmp",
        .fileName = "*.bmp"});
   if (!path || path->empty()) return;
-  if (!suite_.platform.CanShowPicture(*path)) {
-    suite_.Tell(ui::Sign::Exclamation, "Unable to show '" + *path + "' as a picture.");
-    return;
-  }
   path_ = *path;
   Show();
+  if (!image_().empty()) return;
+  suite_.Tell(ui::Sign::Exclamation, "Unable to show '" + path_ + "' as a picture.");
 }
 
 void Background::Clear() {
