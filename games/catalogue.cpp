@@ -2,6 +2,8 @@
 #include "games/catalogue.h"
 
 #include "games/brenlock/window.h"
+#include "games/fandrel/window.h"
+#include "games/glimmard/window.h"
 #include "games/harvel/window.h"
 #include "games/kestrane/window.h"
 #include "games/mozaro/window.h"
@@ -38,6 +40,10 @@ const core::GameEntry Entries[] = {
      130000, 75, Make<vermoy::frmVermoy>},
     {"Kestrane!", "cmdKestrane", "&Kestrane", "Kestrane Hi Score Table ", {50000, 30000, 50000},
      225000, 120, Make<kestrane::frmKestrane>},
+    {"Glimmard!", "cmdPhrase",   "&Glimmard", "Glimmard Hi Score Table ", {30000, 30000, 30000},
+     430000, 45, Make<glimmard::frmPhrase>},
+    {"Fandrel!",  "cmdFandrel",  "&Fandrel",  "Fandrel Hi Score Table ",  {50000, 50000, 50000},
+     13000000, 90, Make<fandrel::frmFandrel>},
 };
 // clang-format on
 

@@ -20,12 +20,12 @@ struct BonusLabels {
 /// What a game changes in the sequences; all may be left as they are.
 struct BonusStyle {
   /// Multiplies a second's points, if set.
-  std::function<std::int64_t()> speedFactor;
+  std::function<std::int64_t()> speedFactor = {};
   /// False: the window has written the speed bonus's title itself.
   bool writesSpeedTitle = true;
   /// Brings title and amount to their places, when the amount has been written.
-  std::function<void()> placeSpeedBonus;
-  std::function<void()> placeBonus;
+  std::function<void()> placeSpeedBonus = {};
+  std::function<void()> placeBonus = {};
 };
 
 class BonusCounter {

@@ -65,7 +65,7 @@ void GameWindow::Load() {
   ReadSettingsINI(settings);
   Caption = shared.GameTitle;
   Title.lblProductName.Text = shared.GameTitle;
-  StatusBar1(1).Text = "Welcome to " + shared.GameTitle + "  ";
+  StatusBar1(1).Text = "Welcome to " + shared.GameTitle + words_.welcomeEnd;
   WallClock_Timer();
   CreateTableIfMissing();
   ShowTableTop();

@@ -35,6 +35,7 @@ struct Vocabulary {
   std::string message = "lblMessage";  ///< the label of the big messages
   std::string score = "lblCurrentScore";
   std::string highScorePrefix = "Current High Score: ";
+  std::string welcomeEnd = "  ";  ///< after the title, in the welcome
 
   std::string wallClock = "Timer3";
   std::string titleTimer = "Timer4";
@@ -165,6 +166,7 @@ class GameWindow : public ui::Window, public TableOwner {
   /// ElapsedSeconds 0, the empty clock, its label, its timer on, its group shown.
   void StartClock();
   void StopClock() { Timer1.Enabled = false; }
+  bool StandsStill() const;  ///< minimized, in a game that stops then
 
   /// Shows `text` as the big message.
   void ShowMessage(const std::string& text, ui::Color color);
@@ -243,7 +245,6 @@ class GameWindow : public ui::Window, public TableOwner {
   void Pause();
   void Resume();
   void StopOrGoOnMinimized();
-  bool StandsStill() const;  ///< minimized, in a game that stops then
   bool BelowSmallest() const;
   void PlaceFrame(ui::Size inner);
   ui::Handler HandlerOf(Command command);

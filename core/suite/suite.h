@@ -1,6 +1,8 @@
 // The running program: its shared values, the deck, the picture store and the way to the platform.
 #pragma once
 
+#include <any>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -27,6 +29,15 @@ class Suite {
   CardImages images;
   ui::Window* launcher = nullptr;
   std::optional<std::string> commandLine;  ///< a saved game to open; taken once
+
+  /// What a game keeps from one of its windows to the next; made when it is first asked for, and
+  /// gone with the program. A game asks for one type only.
+  template <class T>
+  T& KeptBy(const GameEntry& entry) {
+    std::any& kept = kept_[&entry];
+    if (!kept.has_value()) kept.emplace<T>();
+    return std::any_cast<T&>(kept);
+  }
 
   Moment Now() const;
   std::string PathOf(const std::string& file) const { return shared.AppPath + file; }
@@ -55,6 +66,9 @@ class Suite {
 
   /// Opens a page of the public site, given its path there; says so if that fails.
   void OpenWebPage(const std::string& url);
+
+ private:
+  std::map<const GameEntry*, std::any> kept_;
 };
 
 }  // namespace core

@@ -114,7 +114,7 @@ void frmBrenlock::PlaceBoard(ui::Size inner) {
   cmdGiveUp.Place = {middle - 80, lower + 56, 110, 30};
   RoundFrame.SetPlace({middle - 80, lower + 94, 110, 28});
   core::CenterIn(lblRound, {middle - 76, lower + 97, 102, 22});
-  Score.SetPlace({middle + 38, lower + 4, 126, 44});
+  Score.SetPlace({middle + 38, lower + 84, 126, 44});
   core::CenterIn(lblHighScore, {middle - 80, lower + 130, 244, 20});
   Table.frmScore.Place = {middle + 168, lower, ScoreTable::Extent.w, ScoreTable::Extent.h};
 

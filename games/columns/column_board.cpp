@@ -66,6 +66,14 @@ void ColumnBoard::ClearColumns() {
   for (int c = 0; c < shape_.columns; ++c) ClearColumn(c);
 }
 
+void ColumnBoard::Reset() {
+  ClearColumns();
+  for (int c = 0; c < shape_.columns; ++c) {
+    ShowTotal(c, 0);
+    ShowSoft(c, false);
+  }
+}
+
 void ColumnBoard::ShowEmptyPlace(int column) {
   ShowCard(column, 0, "EMPTY");
   Column(column)(0).Border = false;
@@ -124,10 +132,11 @@ void ColumnBoard::PlacePiles(int left, int top) {
   cmdPass.Place = {left + Card.w + 11, top + PileSize.h + 6, PileSize.w, HitSize.h};
 }
 
-void ColumnBoard::PutOverColumn(ui::Label& label, int column) {
+void ColumnBoard::ShowOverColumn(ui::Label& label, int column) {
   const ui::Rect card = Column(column)(0).Place();
   core::CenterIn(label, {card.CenterX() - NoteSize.w / 2, card.y + CardsHeight / 2 - NoteSize.h / 2,
                          NoteSize.w, NoteSize.h});
+  label.Visible = true;
 }
 
 }  // namespace games::columns

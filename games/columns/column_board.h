@@ -51,6 +51,8 @@ class ColumnBoard {
   /// Drops all cards; no place is shown.
   void ClearColumns();
   void ClearColumn(int column);
+  /// ClearColumns, and no column has a total.
+  void Reset();
   /// Shows the first place of a column as an empty one.
   void ShowEmptyPlace(int column);
   void ShowEmptyPlaces();
@@ -62,8 +64,8 @@ class ColumnBoard {
 
   void PlaceColumns(int left, int top);
   void PlacePiles(int left, int top);
-  /// Centres a label over the cards of a column.
-  void PutOverColumn(ui::Label& label, int column);
+  /// Shows a label centred over the cards of a column.
+  void ShowOverColumn(ui::Label& label, int column);
 
  private:
   void MakeColumns(ui::Window* window);

@@ -5,16 +5,17 @@
 namespace games::harvel {
 namespace {
 
+using core::Digits;
+
+// Milliseconds.
 constexpr int NotePause = 450;
 constexpr int RunOutPause = 250;
-constexpr int GameOverPause = 2000;
 constexpr int CompletionPause = 1000;
+constexpr int StepPause = 75;
+constexpr int AtOncePause = 500;
+constexpr int BonusSumPause = 750;
 
 }  // namespace
-
-void frmHarvel::Play() {
-  cmdPlay.Text == "&Play" ? StartGame() : AskToEndGame();
-}
 
 void frmHarvel::StartGame() {
   BeginGame();
@@ -28,16 +29,11 @@ void frmHarvel::StartGame() {
   StatusBar1(2).Text = "Create columns of 21 to increase bonus score!";
   ShowGoal(values_.BonusRoundScore, " for bonus round.");
   Board.ShowEmptyPlaces();
-  if (!suite.CreateDeck() || !suite.ShuffleDeck()) {
-    ReturnToTitle();
-    return;
-  }
+  if (!suite.CreateDeck() || !suite.ShuffleDeck()) return ReturnToTitle();
   ShowCards(true);
   ShowGraphics(true);
-  ShowCounter(true);
   StartClock();
-  Board.NextCardPicture.Show(rules_.CurrentCard());
-  Board.NextCardPicture.Border = true;
+  ShowCurrentCard(rules_.CurrentCard());
   ShowDeckPicture();
   WriteCardsUsed();
   StartMusic();
@@ -48,11 +44,8 @@ void frmHarvel::AskToEndGame() {
   StopMusic();
   const bool yes = Ask("You have a game in progress. Are you sure you want to quit?");
   if (!shared.GameActive) return;
-  if (!yes) {
-    StartMusic();
-    return;
-  }
-  StopRound();
+  if (!yes) return StartMusic();
+  StopTimers();
   ShowCaptionOfPlay(false);
   EnablePause(false);
   ShowTimerGroup(false);
@@ -62,77 +55,55 @@ void frmHarvel::AskToEndGame() {
   GameAbandoned = false;
 }
 
-void frmHarvel::StopRound() {
+void frmHarvel::StopTimers() {
   StopClock();
-  StopCounter();
+  counterRuns_ = Timer3.Enabled = false;
 }
 
 void frmHarvel::NextRound() {
   ServeAndDrop();
   StopMusic();
   rules_.EndRound();
-  Board.ClearColumns();
-  for (int column = 0; column < ColumnCount; ++column) {
-    Board.ShowTotal(column, 0);
-    Board.ShowSoft(column, false);
-  }
-  StopCounter();
+  Board.Reset();
   ResetCounter();
   StatusBar1(2).Text = "Create columns of 21 to increase bonus score!   ";
-  rules_.IsPlayed(shared.RoundNumber, shared.CurrentScore) ? StartRound() : GameOver();
+  if (rules_.IsPlayed(shared.RoundNumber, shared.CurrentScore)) return StartRound();
+  if (!GameAbandoned) {
+    EnterScore();
+    ShowTimerGroup(false);
+  }
+  ReturnToTitle();
 }
 
 void frmHarvel::StartRound() {
   StartMusic();
   suite.ShuffleDeck();
   Board.PlayCardPicture.Show("FULL");
-  if (rules_.IsBonusRound(shared.RoundNumber, shared.CurrentScore)) {
-    Wave("HighScore.wav");
-    Announce("Prepare for Bonus Round");
-  } else {
-    Announce("Prepare for Round " + core::Digits(shared.RoundNumber));
-  }
+  const bool bonusRound = rules_.IsBonusRound(shared.RoundNumber, shared.CurrentScore);
+  if (bonusRound) Wave("HighScore.wav");
+  AnnounceForWaitPeriod(
+      "Prepare for " + (bonusRound ? "Bonus Round" : "Round " + Digits(shared.RoundNumber)),
+      ui::Red);
   Board.ShowEmptyPlaces();
-  Timer1.Enabled = true;
+  Timer1.Enabled = !StandsStill();
   rules_.StartRound();
-  Board.NextCardPicture.Show(rules_.CurrentCard());
+  ShowCurrentCard(rules_.CurrentCard());
   ServeAndDrop();
   shared.ScoringBusy = false;
   EnableControls(true);
   EnablePause(true);
   Board.cmdHit.Enable(true);
-  Board.NextCardPicture.Border = true;
-}
-
-void frmHarvel::GameOver() {
-  StopRound();
-  if (!GameAbandoned) EnterScore();
-  ReturnToTitle();
-}
-
-void frmHarvel::EnterScore() {
-  UpdateTable();
-  ShowOverBoard("Game Over");
-  Hourglass = true;
-  Wait(GameOverPause);
-  HideBoardMessage();
-  ShowTimerGroup(false);
 }
 
 void frmHarvel::ReturnToTitle() {
   shared.DeckIndex = 0;
   lblRound.Text = "Game Over";
-  shared.GameActive = false;
-  ShowIdleCommands();
-  Announce("Game Over");
-  ShowTitle(true);
-  Clock.InitTimerFace();
-  Timer2.Enabled = false;
+  ShowCaptionOfPlay(false);
+  AnnounceForWaitPeriod("Game Over", ui::Red);
+  GoIdle();
   ShowCards(false);
   ShowGraphics(false);
   Clock.lblTime.Text = "Time:";
-  shared.ElapsedSeconds = 0;
-  shared.ScoringBusy = false;
   EnableControls(true);
   StatusBar1(1).Text = "Click on Play to start a new game  ";
   StatusBar1(2).Text = "Game Over ";
@@ -140,15 +111,11 @@ void frmHarvel::ReturnToTitle() {
 
 // --- the moves ----------------------------------------------------------------------------------
 
-void frmHarvel::cmdHit_Click(int column) {
-  if (shared.ScoringBusy) return;
+void frmHarvel::Hit(int column) {
   const std::string card = rules_.CurrentCard();
   const HitResult hit = rules_.Hit(column);
   if (hit.outcome == Outcome::Nothing) return;
-  if (hit.outcome == Outcome::Refused) {
-    Refuse(column, hit.points);
-    return;
-  }
+  if (hit.outcome == Outcome::Refused) return Refuse(column, hit.points);
   Board.ShowSoft(column, hit.soft);
   Board.ShowCard(column, hit.place, card);
   if (hit.outcome == Outcome::TwentyOne) {
@@ -163,8 +130,7 @@ void frmHarvel::cmdHit_Click(int column) {
 }
 
 void frmHarvel::Refuse(int column, std::int32_t points) {
-  Board.PutOverColumn(lblBust, column);
-  lblBust.Visible = true;
+  Board.ShowOverColumn(lblBust, column);
   Wave("Slide.wav");
   Pay(points);
   Wait(NotePause);
@@ -184,8 +150,7 @@ void frmHarvel::ShowTwentyOne(int column) {
 
 void frmHarvel::AwardFiveCardGimme(int column, std::int32_t points) {
   Board.ClearColumn(column);
-  Board.PutOverColumn(lblFiveCards, column);
-  lblFiveCards.Visible = true;
+  Board.ShowOverColumn(lblFiveCards, column);
   Pay(points);
   ResetCounter();
   Board.ShowTotal(column, 0);
@@ -199,36 +164,31 @@ void frmHarvel::AwardFiveCardGimme(int column, std::int32_t points) {
 void frmHarvel::ShowNextCard() {
   WriteCardsUsed();
   ShowDeckPicture();
-  if (rules_.DeckFinished()) {
-    FinishDeck();
-    return;
+  if (shared.DeckIndex >= columns::LastCard) {
+    Board.PlayCardPicture.Show("EMPTY");
+    Board.cmdPass.Enabled = false;
   }
+  if (rules_.DeckFinished()) return FinishDeck();
   Board.NextCardPicture.Show(rules_.CurrentCard());
-  if (shared.DeckIndex < columns::LastCard) return;
-  Board.PlayCardPicture.Show("EMPTY");
-  Board.cmdPass.Enabled = false;
 }
 
 void frmHarvel::FinishDeck() {
   Board.NextCardPicture.Border = false;
   Board.NextCardPicture.Show("EMPTY");
-  Board.PlayCardPicture.Show("EMPTY");
-  Board.cmdPass.Enabled = false;
   shared.AddToScore(values_.DeckCompletionBonus);
   Board.ClearColumns();
   Wave("Applause.wav");
-  Announce("Awesome score!");
+  AnnounceForWaitPeriod("Awesome score!", ui::Red);
   Wait(CompletionPause);
   WriteScore();
   Board.cmdHit.Enable(false);
   cmdTakeScore_Click();
 }
 
-void frmHarvel::cmdPass_Click() {
-  if (shared.ScoringBusy || !rules_.Pass()) return;
+void frmHarvel::Pass() {
+  if (!rules_.Pass()) return;
   Wave("Click.wav");
   ShowNextCard();
-  if (shared.PassesLeft == 0) Board.cmdPass.Enabled = false;
 }
 
 // --- the 21 Counter -----------------------------------------------------------------------------
@@ -261,13 +221,84 @@ void frmHarvel::ResetCounter() {
   lblTwentyoneTime.TextColor = ui::Blue;
 }
 
-void frmHarvel::StopCounter() {
-  counterRuns_ = Timer3.Enabled = false;
+// --- the end of a round -------------------------------------------------------------------------
+
+void frmHarvel::HideAtExpiry() {
+  StopTimers();
+  Board.ClearColumns();
+  ScoringLabelOutline.Visible = true;
+  Clock.lblTime.Text = "Time:";
 }
 
-void frmHarvel::ShowCounter(bool visible) {
-  ProgressBar1.Visible = visible;
-  lblTwentyoneTime.Visible = visible;
+void frmHarvel::TimeIsUp() {
+  GameWindow::TimeIsUp();
+  ScoringLabelOutline.Visible = Message.Visible();
+}
+
+void frmHarvel::TakeScore() {
+  if (!shared.GameActive) return;
+  shared.ScoringBusy = true;
+  Hourglass = true;
+  StopTimers();
+  ShowCounter(false);
+  EnableControls(false);
+  EnablePause(false);
+  StopMusic();
+  PayCardsUsed();
+  if (rules_.TwentyOneCount != 0) PayTwentyOnes();
+  rules_.ClearBonus();
+  WriteBonus();
+  ResetClock();
+  Clock.WriteTime();
+  ShowTimerGroup(true);
+  ShowCounter(true);
+  ++shared.RoundNumber;
+  WriteRound();
+  NextRound();
+  if (shared.GameActive) StartMusic();
+  Hourglass = false;
+}
+
+void frmHarvel::PayCardsUsed() {
+  Paint(ui::Red, {&CardsUsed.Caption, &CardsUsed.Number});
+  if (shared.CountDownScoring) {
+    CountUp(rules_.CardsUsed(), values_.CardsUsedBonusValue, CardsUsed.Number, 1);
+  } else {
+    Pay(core::Product(rules_.CardsUsed(), values_.CardsUsedBonusValue));
+    CardsUsed.Number.Text = "0";
+    Wait(AtOncePause);
+  }
+  Paint(ui::Blue, {&CardsUsed.Caption, &CardsUsed.Number});
+}
+
+void frmHarvel::PayTwentyOnes() {
+  const auto labels = {&lbl21Bonus, &lblTwentyOnes, &lbl21s, &lblBonus};
+  const std::int32_t bonus = rules_.TwentyOneBonus();
+  Paint(ui::Red, labels);
+  lblRoundScore.Text = Digits(rules_.TwentyOneCount) + " X " + core::Masked(rules_.BonusFigure) +
+                       " = " + core::Masked(bonus);
+  lblRoundScoreCount.Text = Digits(bonus);
+  Show(true, {&lblRoundScore, &lblRoundScoreCount});
+  Wait(BonusSumPause);
+  if (shared.CountDownScoring) {
+    const std::int32_t step = values_.TwentyOneBonusValue;
+    CountUp(rules_.BonusSteps(), step, lblRoundScoreCount, step);
+  } else {
+    Pay(bonus);
+    Wait(AtOncePause);
+  }
+  Paint(ui::Blue, labels);
+  Show(false, {&lblRoundScore, &lblRoundScoreCount});
+}
+
+/// Pays so many steps, each of which lowers the number in the label `count`.
+void frmHarvel::CountUp(int steps, std::int32_t points, ui::Label& count, std::int32_t less) {
+  for (; steps > 0; --steps) {
+    Wait(StepPause);
+    Pay(points);
+    Wave("CountScore.wav");
+    count.Text = Digits(core::WholeIn(count.Text()) - less);
+  }
 }
 
 }  // namespace games::harvel

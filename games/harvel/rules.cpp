@@ -49,25 +49,21 @@ HitResult Rules::PlaceCard(int column, int total) {
   auto& cards = CardsInColumn[static_cast<std::size_t>(column)];
   HitResult result{Outcome::Placed, cards++, IsSoft(column), 0};
   ++DeckIndex;
+  if (total != columns::TwentyOne && cards < columns::PlacesOfColumn) {
+    ColumnTotal[static_cast<std::size_t>(column)] = ClampTo<std::int16_t>(total);
+    return result;
+  }
   if (total == columns::TwentyOne) {
     result.outcome = Outcome::TwentyOne;
-    AwardTwentyOne(column);
-  } else if (cards == columns::PlacesOfColumn) {
+    ++TwentyOneCount;
+    BonusFigure = ClampTo<std::int32_t>(std::int64_t{BonusFigure} + values_.TwentyOneBonusValue);
+  } else {
     result.outcome = Outcome::FiveCardGimme;
     result.points = values_.FiveCardsBonusValue;
-    ClearColumn(column);
-    CounterValue = 0;
-  } else {
-    ColumnTotal[static_cast<std::size_t>(column)] = ClampTo<std::int16_t>(total);
   }
-  return result;
-}
-
-void Rules::AwardTwentyOne(int column) {
-  ++TwentyOneCount;
-  BonusFigure = ClampTo<std::int32_t>(std::int64_t{BonusFigure} + values_.TwentyOneBonusValue);
   ClearColumn(column);
   CounterValue = 0;
+  return result;
 }
 
 CounterTick Rules::TickCounter() {
@@ -92,11 +88,6 @@ std::int32_t Rules::TwentyOneBonus() const {
 int Rules::BonusSteps() const {
   const std::int64_t step = values_.TwentyOneBonusValue;
   return step > 0 ? static_cast<int>((TwentyOneBonus() + step - 1) / step) : 0;
-}
-
-void Rules::ClearBonus() {
-  TwentyOneCount = 0;
-  BonusFigure = 0;
 }
 
 bool Rules::IsBonusRound(int round, std::int32_t score) const {

@@ -10,6 +10,7 @@ inline constexpr int ColumnCount = 4;
 inline constexpr int LastRound = 3;  ///< before the bonus round
 inline constexpr int BonusRound = 4;
 inline constexpr int AfterLastRound = 5;
+inline constexpr int CounterLimit = 100;  ///< of the 21 Counter
 
 /// What became of the current card.
 enum class Outcome {
@@ -36,8 +37,6 @@ enum class CounterTick {
 
 class Rules : public columns::Columns {
  public:
-  static constexpr int CounterLimit = 100;
-
   /// All that is given outlives the rules.
   Rules(const core::Deck& deck, columns::SharedValues shared, const Values& values);
 
@@ -63,14 +62,13 @@ class Rules : public columns::Columns {
   /// How many steps of TwentyOneBonusValue count them up; 0 if they can't be counted so.
   int BonusSteps() const;
   /// The 21 combinations are paid.
-  void ClearBonus();
+  void ClearBonus() { BonusFigure = TwentyOneCount = 0; }
 
   bool IsBonusRound(int round, std::int32_t score) const;
   bool IsPlayed(int round, std::int32_t score) const;
 
  private:
   HitResult PlaceCard(int column, int total);
-  void AwardTwentyOne(int column);
 
   const Values& values_;
 };

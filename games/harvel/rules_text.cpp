@@ -20,7 +20,7 @@ std::string Passes(int count) {
 }
 
 std::string CounterSeconds(int milliseconds) {
-  return Digits(core::RoundToEven((Rules::CounterLimit + 1) * milliseconds / 1000.0));
+  return Digits(core::RoundToEven((CounterLimit + 1) * milliseconds / 1000.0));
 }
 
 }  // namespace

@@ -43,11 +43,13 @@ void frmMozaro::ShowBonus(const std::string& title, std::int64_t amount) {
   lblTimeScore.Text = core::Masked(amount);
   lblTimeScore.TextColor = ui::Red;
   lblTimeScore.Visible = true;
+  PlaceMessage();
   Wait(BonusPause);
 }
 
 void frmMozaro::HideBonus() {
   lblTimeScore.Visible = false;
+  PlaceMessage();
   Score.Number.TextColor = ui::Blue;
 }
 

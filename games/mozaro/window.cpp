@@ -39,37 +39,28 @@ frmMozaro::frmMozaro(core::Suite& suite, const core::GameEntry& entry)
     : GameWindow(suite, entry, Words()) {
   using core::Command;
   BuildMenu({
-      {"mnuGame",
-       "&Game",
-       Command::Other,
-       {},
-       {{"mnuPlay", "&Play", Command::Play},
-        {"mnuJumble", "&Jumble", Command::Other, [this] { cmdJumble_Click(); }},
-        {"mnuPause", "Pau&se", Command::Pause},
-        {"mnuTakeScore", "&Take Score", Command::TakeScore},
-        {"mnuExit", "E&xit", Command::Exit}}},
-      {"mnuOptions",
-       "&Options",
-       Command::Other,
-       {},
-       {{"mnuViewHighScores", "&View High Scores...", Command::ViewHighScores},
-        {"mnuClearHighScores", "&Clear High Scores", Command::ClearHighScores},
-        {"mnuMusic", "Play &Music  (plays during game)", Command::Music},
-        {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
-        {"mnuSounds", "&Play Sounds", Command::Sounds},
-        {"mnuCustom", "&User Options...", Command::Custom},
-        {"mnuBackGround", "Set &BackGround Image...", Command::Other,
-         [this] { mnuBackGround_Click(); }},
-        {"mnuClearBackground", "Clear Back &Ground Image..", Command::Other,
-         [this] { mnuClearBackground_Click(); }},
-        {"mnuTime", "&Time limit", Command::Time, {}, TimeRows()}}},
-      {"mnuHelp",
-       "&Help",
-       Command::Other,
-       {},
-       {{"mnuRules", "&Rules", Command::Rules},
-        {"mnuReadme", "&View Readme File", Command::Readme},
-        {"mnuAbout", "&About", Command::About}}},
+      core::Heading("mnuFile", "&Game",
+                    {{"mnuPlay", "&Play", Command::Play},
+                     {"mnuJumble", "&Jumble", Command::Other, [this] { cmdJumble_Click(); }},
+                     {"mnuPause", "Pau&se", Command::Pause},
+                     {"mnuTakeScore", "&Take Score", Command::TakeScore},
+                     {"mnuExit", "E&xit", Command::Exit}}),
+      core::Heading("mnuOptions", "&Options",
+                    {{"mnuViewHighScores", "&View High Scores...", Command::ViewHighScores},
+                     {"mnuClearHighScores", "&Clear High Scores", Command::ClearHighScores},
+                     {"mnuMusic", "Play &Music  (plays during game)", Command::Music},
+                     {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
+                     {"mnuSounds", "&Play Sounds", Command::Sounds},
+                     {"mnuCustom", "&User Options...", Command::Custom},
+                     {"mnuBackGround", "Set &BackGround Image...", Command::Other,
+                      [this] { mnuBackGround_Click(); }},
+                     {"mnuClearBackground", "Clear Back &Ground Image..", Command::Other,
+                      [this] { mnuClearBackground_Click(); }},
+                     {"mnuTime", "&Time limit", Command::Time, {}, TimeRows()}}),
+      core::Heading("mnuHelp", "&Help",
+                    {{"mnuRules", "&Rules", Command::Rules},
+                     {"mnuReadme", "&View Readme File", Command::Readme},
+                     {"mnuAbout", "&About", Command::About}}),
   });
   PlayingSurface.OnMouseDown = [this](int x, int y) { PlayingSurface_MouseDown(x, y); };
   PlayingSurface.OnMouseMoveAt = [this](int x, int y) { PlayingSurface_MouseMove(x, y); };
@@ -121,9 +112,15 @@ void frmMozaro::PlaceBoard(ui::Size inner) {
   const ui::Rect outline = {std::max(0, surface.CenterX() - Outline.w / 2),
                             std::max(0, surface.CenterY() - Outline.h / 2), Outline.w, Outline.h};
   ScoringLabelOutline.Place = outline;
-  core::CenterIn(Message, {outline.x, outline.y + 10, outline.w, 40});
   core::CenterIn(lblTimeScore, {outline.x, outline.y + 50, outline.w, 40});
+  PlaceMessage();
   PlaceTexts(inner, {left, cmdExit.Place().Bottom() + 8, width, 2 * TextHeight});
+}
+
+void frmMozaro::PlaceMessage() {
+  const ui::Rect outline = ScoringLabelOutline.Place();
+  const int height = lblTimeScore.Visible() ? 40 : outline.h - 20;
+  core::CenterIn(Message, {outline.x, outline.y + 10, outline.w, height});
 }
 
 // The texts stand below the surface, or beside it where a wide window has no room left below.

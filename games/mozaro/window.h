@@ -86,6 +86,7 @@ class frmMozaro : public core::GameWindow, public BoardOwner {
   // The look.
   void ResizePlaySurface(int spacing);
   int BoxEdge() const;
+  void PlaceMessage();
   void PlaceTexts(ui::Size inner, ui::Rect beside);
   void LoadBackground();
   void mnuBackGround_Click();

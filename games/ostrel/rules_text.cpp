@@ -51,7 +51,7 @@ core::RulesText frmOstrel::Rules() const {
       "Long runs pay far better than short ones: ten cards in one run earn more than five times as "
       "much as ten cards played one by one. Don't turn the stack while any card still fits.",
       "Prefer cards that turn others over. A run can only grow on cards that you can see.",
-      "A tower needs only its top card: ten cards lead up to it, so work on one tower at a time, "
+      "A tower needs only its top card, and nine cards lead up to it: work on one tower at a time, "
       "and let the clock decide whether there is time for the next.",
       "The game doesn't tell you when nothing fits any more. When the stack is used up and no card "
       "can be played, choose " +

@@ -138,8 +138,8 @@ void frmOstrel::PlaceCounters(ui::Size inner) {
   }
   const int bottom = inner.h - 8;
   Clock.SetPlace({8, bottom - core::RoundClock::Extent.h});
-  Round.SetPlace({100, bottom - Counter.h, Counter.w, Counter.h});
-  Score.SetPlace({100, bottom - 2 * Counter.h - 8, Counter.w, Counter.h});
+  Score.SetPlace({100, bottom - Counter.h, Counter.w, Counter.h});
+  Round.SetPlace({100, bottom - 2 * Counter.h - 8, Counter.w, Counter.h});
   lblHighScore.Place = {8, bottom - core::RoundClock::Extent.h - 28, 230, 20};
   lblHighScore.Alignment = ui::Align::Left;
   int top = inner.h - 155;

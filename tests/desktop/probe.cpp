@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QSocketNotifier>
 #include <QWidget>
@@ -42,7 +43,24 @@ class Probe::Reader {
     if (verb == "windows") return Windows();
     const ui::Control* control = FindControl(name);
     if (!control) return "none";
-    return verb == "text" ? TextOf(*control) : PlaceOf(*control);
+    if (verb == "text") return TextOf(*control);
+    if (verb == "spoken") return SpokenAt(*control);
+    return PlaceOf(*control);
+  }
+
+  /// What a screen reader finds at the middle of a control: its role's number and its name.
+  static std::string SpokenAt(const ui::Control& control) {
+    std::istringstream place(PlaceOf(control));
+    int x = 0, y = 0, w = 0, h = 0;
+    if (!(place >> x >> y >> w >> h)) return "none";
+    const QPoint middle(x + w / 2, y + h / 2);
+    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(QApplication::activeWindow());
+    while (QAccessibleInterface* inner = found ? found->childAt(middle.x(), middle.y()) : nullptr) {
+      found = inner;
+    }
+    if (!found) return "none";
+    const char* role = found->role() == QAccessible::Button ? "button " : "";
+    return role + ui::qt::FromQt(found->text(QAccessible::Name));
   }
 
   std::string Windows() const {
@@ -70,6 +88,8 @@ class Probe::Reader {
         return static_cast<const ui::Field&>(control).Text();
       case ui::Kind::Panel:
         return static_cast<const ui::Panel&>(control).Text();
+      case ui::Kind::Picture:
+        return static_cast<const ui::Picture&>(control).Key();
       case ui::Kind::Menu:
         return static_cast<const ui::Menu&>(control).Text();
       default:

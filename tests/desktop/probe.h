@@ -11,7 +11,9 @@ class QtPlatform;
 /// program waits. It only looks; what the player does comes through the window system.
 ///
 ///   place NAME      "X Y W H" on the screen in device pixels, or "none"
-///   text NAME       what a label, button, field or panel reads
+///   text NAME       what a label, button, menu, field or panel reads; a picture's key
+///   spoken NAME     what a screen reader finds at its middle: "button " for what can be pressed,
+///                   and its name
 ///   windows         names of the open windows, the active one first
 class Probe {
  public:

@@ -65,26 +65,41 @@ QSizeF Artwork::SizeOf(const std::string& name) {
 
 QPixmap Artwork::Render(const std::string& name, QSizeF size, qreal ratio) {
   const QSize device = Device(size, ratio);
-  const QString key = KeyOf(ToQt(name), device, ratio);
-  const auto known = drawn_.constFind(key);
-  if (known != drawn_.constEnd()) return *known;
-
-  QSvgRenderer* renderer = Load(name);
-  if (!renderer) return {};
-  QPixmap picture(device);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  renderer->render(&painter, QRectF(QPointF(0, 0), QSizeF(device)));
-  painter.end();
-  picture.setDevicePixelRatio(ratio);
-  drawn_.insert(key, picture);
-  return picture;
+  return Made(KeyOf(ToQt(name), device, ratio), [&] {
+    QSvgRenderer* renderer = Load(name);
+    if (!renderer) return QPixmap();
+    QPixmap picture(device);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer->render(&painter, QRectF(QPointF(0, 0), QSizeF(device)));
+    painter.end();
+    picture.setDevicePixelRatio(ratio);
+    return picture;
+  });
 }
 
 QPixmap Artwork::Natural(const std::string& name, qreal ratio) {
   const QSizeF size = SizeOf(name);
   return size.isEmpty() ? QPixmap() : Render(name, size, ratio);
+}
+
+QPixmap Artwork::Made(const QString& name, const std::function<QPixmap()>& make) {
+  const auto known = drawn_.constFind(name);
+  if (known != drawn_.constEnd()) return *known;
+  const QPixmap made = make();
+  drawn_.insert(name, made);
+  return made;
+}
+
+QPixmap Artwork::Tile(const std::string& name, qreal ratio) {
+  return Made(QStringLiteral("tile %1@%2").arg(ToQt(name)).arg(ratio), [&] {
+    const QPixmap drawn = Natural(name, ratio);
+    if (drawn.isNull()) return drawn;
+    QPixmap tile = QPixmap::fromImage(drawn.toImage().convertToFormat(QImage::Format_RGB32));
+    tile.setDevicePixelRatio(ratio);
+    return tile;
+  });
 }
 
 QPixmap Artwork::Fitted(const std::string& name, QSizeF size, qreal ratio) {

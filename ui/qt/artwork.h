@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QSizeF>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -22,6 +23,10 @@ class Artwork {
 
   /// The artwork in the size in which it was drawn.
   QPixmap Natural(const std::string& name, qreal ratio);
+  /// Artwork without transparent parts, as a tile that can be repeated seamlessly.
+  QPixmap Tile(const std::string& name, qreal ratio);
+  /// What `make` gives, kept under a name of its own.
+  QPixmap Made(const QString& name, const std::function<QPixmap()>& make);
   /// The artwork scaled to fit `size`, its shape kept.
   QPixmap Fitted(const std::string& name, QSizeF size, qreal ratio);
   /// The size in which the artwork was drawn; empty if there is none of that name.

@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "ui/qt/accessible.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/painters.h"
 #include "ui/qt/painting_order.h"
@@ -59,6 +60,7 @@ Window* Board::Model() const {
 void Board::paintEvent(QPaintEvent* event) {
   const Window* window = Model();
   if (!window) return;
+  hasBeenPainted_ = true;
   QPainter painter(this);
   const auto order = PaintingOrder(*window);
   const Scene scene{host_.Platform().Pictures(), devicePixelRatioF(), order};
@@ -91,6 +93,7 @@ void Board::ControlChanged(Control& control) {
     painted_.erase(before);
   }
   if (!region.isEmpty()) update(region);
+  TellNameChanged(*this, control);
   if (ToQt(control.PlaceInWindow()).contains(pointer_)) UpdatePointer();
   if (&control == focus_.control && !control.Usable()) ShowFocus(false);
 }
@@ -150,7 +153,7 @@ void Board::Move(QPoint at) {
   Control* control = ControlAt(at);
   if (!control) {
     host_.Platform().Act(*window, [this] {
-      if (Window* open = Model()) host_.Platform().Run([open] { open->MouseMove(); });
+      if (Window* open = Model()) host_.Platform().UserMoveBeside(*open);
     });
   } else if (control->GetKind() == Kind::Surface) {
     auto& surface = static_cast<Surface&>(*control);
@@ -202,7 +205,6 @@ bool Board::event(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     return ShowTip(help->pos(), help->globalPos());
   }
-  if (event->type() == QEvent::CursorChange && Model()) return QWidget::event(event);
   return QWidget::event(event);
 }
 

@@ -25,6 +25,11 @@ class Board : public QWidget {
   void ControlChanged(Control& control);
   /// Where the controls lie on top of each other, the topmost that takes the pointer; null for none.
   Control* ControlAt(QPoint at) const;
+  QtWindow& Host() const { return host_; }
+  void Click(Control& control);
+  /// What the keyboard points at; null for nothing.
+  const Control* FocusedControl() const { return focusShown_ ? focus_.control : nullptr; }
+  bool HasBeenPainted() const { return hasBeenPainted_; }
   /// The painted controls that a person would want to be told of, in painting order.
   std::vector<Control*> Readable() const;
 
@@ -41,7 +46,6 @@ class Board : public QWidget {
 
  private:
   Window* Model() const;
-  void Click(Control& control);
   void Press(Surface& surface, QPoint at);
   void Move(QPoint at);
   void UpdatePointer();
@@ -58,6 +62,7 @@ class Board : public QWidget {
   std::unordered_map<const Control*, QRect> painted_;
   Control* pressed_ = nullptr;
   QPoint pointer_{-1, -1};
+  bool hasBeenPainted_ = false;
   bool focusShown_ = false;
   Target focus_;
 };

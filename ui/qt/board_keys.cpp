@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "ui/qt/accessible.h"
 #include "ui/qt/board.h"
 #include "ui/qt/painters.h"
 #include "ui/qt/painting_order.h"
@@ -58,7 +59,8 @@ void Board::FocusOn(const Target& target) {
   focus_ = target;
   focusShown_ = true;
   update(focus_.area.adjusted(-6, -6, 6, 6));
-  Move(focus_.area.center());
+  TellFocus(*this, *target.control);
+  Move(target.area.center());
 }
 
 void Board::ShowFocus(bool show) {

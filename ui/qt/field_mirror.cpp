@@ -12,6 +12,8 @@
 namespace ui::qt {
 namespace {
 
+constexpr int FewLines = 5;  // of a field that can grow
+
 /// What both kinds of field have in common: positions count characters in the widget, bytes in the
 /// control.
 class FieldMirror : public Mirror {
@@ -107,10 +109,20 @@ class LineMirror : public FieldMirror {
   QLineEdit* widget_;
 };
 
+/// Takes the room that is left, and asks for a few lines.
+class TextEdit : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+  QSize sizeHint() const override {
+    return {QPlainTextEdit::sizeHint().width(), FewLines * fontMetrics().lineSpacing()};
+  }
+  QSize minimumSizeHint() const override { return {80, sizeHint().height()}; }
+};
+
 class TextMirror : public FieldMirror {
  public:
   TextMirror(QtWindow& host, Field& field, QWidget* parent)
-      : FieldMirror(host, field), widget_(new QPlainTextEdit(parent)) {
+      : FieldMirror(host, field), widget_(new TextEdit(parent)) {
     Use(widget_);
     widget_->setTabChangesFocus(true);
     QObject::connect(widget_, &QPlainTextEdit::textChanged, widget_, [this] {

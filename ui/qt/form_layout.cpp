@@ -17,6 +17,7 @@ namespace {
 constexpr int Margin = 14;
 constexpr int Gap = 8;
 constexpr int ButtonWidth = 96;
+constexpr int LongestLine = 64;  // characters of a caption that is not broken into lines
 
 using MakeWidget = std::function<QWidget*(Control&, QWidget*)>;
 
@@ -55,11 +56,14 @@ class Grid {
       Control& cell = *row.cells[static_cast<std::size_t>(column)];
       QWidget* widget = make_(cell, parent_);
       const bool last = column == count - 1;
-      layout_->addWidget(widget, line_, column, 1, last ? columns_ - column : 1);
       auto* label = qobject_cast<QLabel*>(widget);
+      // A caption beside a tall field stands at its first line.
+      const bool beside = label && !last && IsTall(*row.cells.back());
+      layout_->addWidget(widget, line_, column, 1, last ? columns_ - column : 1,
+                         beside ? Qt::AlignTop : Qt::Alignment());
       if (!label && caption) caption->setBuddy(widget);
       caption = label;
-      if (label && (count == 1 || static_cast<Label&>(cell).Wrap())) label->setWordWrap(true);
+      if (label && (count == 1 || label->text().size() > LongestLine)) label->setWordWrap(true);
       if (IsTall(cell)) layout_->setRowStretch(line_, 1);
     }
     ++line_;

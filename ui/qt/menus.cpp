@@ -50,6 +50,7 @@ void MenuBar::SyncMenu(Menu& menu) {
 
 StatusBar::StatusBar(const std::vector<Control*>& controls, QWidget* parent) : QStatusBar(parent) {
   setSizeGripEnabled(false);
+  setContentsMargins(6, 0, 6, 2);
   int count = 0;
   for (Control* control : controls) {
     if (control->GetKind() != Kind::Panel) continue;

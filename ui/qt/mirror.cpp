@@ -176,6 +176,10 @@ void Mirror::Use(QWidget* widget) {
 void Mirror::Sync() {
   SyncContent();
   widget_->setToolTip(PlainTip(control_.Tip()));
+  // A field on a board has no caption of its own that a screen reader could find.
+  if (placed_ && !qobject_cast<QAbstractButton*>(widget_)) {
+    widget_->setAccessibleName(ToQt(control_.Tip()));
+  }
   widget_->setEnabled(EnabledThroughout(control_));
   if (placed_) widget_->setGeometry(ToQt(control_.PlaceInWindow()));
   SyncVisibility();

@@ -10,6 +10,7 @@
 namespace ui::qt {
 namespace {
 
+constexpr std::chrono::seconds Respite{30};  // after a device could not be opened
 constexpr int Rate = 44100;
 constexpr int Channels = 2;
 constexpr int BufferFrames = 1024;
@@ -76,7 +77,9 @@ Mixer::~Mixer() {
 }
 
 bool Mixer::Open() {
-  if (open_ || !library_->complete) return open_;
+  const auto now = std::chrono::steady_clock::now();
+  if (open_ || !library_->complete || now < nextTry_) return open_;
+  nextTry_ = now + Respite;
   library_->SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   library_->SDL_SetHint(SDL_HINT_APP_NAME, "Pastimo");
   if (library_->SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return false;

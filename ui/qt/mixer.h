@@ -4,6 +4,7 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
 
+#include <chrono>
 #include <string>
 
 namespace ui::qt {
@@ -27,6 +28,7 @@ class Mixer {
 
   Library* library_;
   bool open_ = false;
+  std::chrono::steady_clock::time_point nextTry_{};
   Mix_Chunk* wave_ = nullptr;
   Mix_Music* music_ = nullptr;
   std::string musicPath_;

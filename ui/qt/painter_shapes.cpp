@@ -1,7 +1,7 @@
-// Boxes, lines, frames and the table itself.
+// Boxes, lines and frames.
 #include <QLinearGradient>
 
-#include "ui/qt/artwork.h"
+#include "ui/qt/bands.h"
 #include "ui/qt/ground.h"
 #include "ui/qt/painters.h"
 #include "ui/qt/strings.h"
@@ -11,14 +11,13 @@ namespace ui::qt {
 namespace {
 
 constexpr int Shadow = 6;
-constexpr int EdgeShade = 28;
 
 void PaintSunken(QPainter& painter, const QRectF& box) {
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.fillRect(box, QColor(tone::Wood).darker(140));
   painter.fillRect(box.adjusted(1, 1, 0, 0), QColor(tone::Box));
   QLinearGradient depth(box.topLeft(), box.topLeft() + QPointF(0, 7));
-  depth.setColorAt(0, QColor(60, 45, 10, 90));
+  depth.setColorAt(0, QColor(60, 45, 10, 60));
   depth.setColorAt(1, QColor(60, 45, 10, 0));
   painter.fillRect(box.adjusted(1, 1, -1, -1), depth);
 }
@@ -53,14 +52,14 @@ void PaintPanel(QPainter& painter, const QRectF& panel) {
 
 void PaintGroup(QPainter& painter, const QRectF& place, const QString& caption, Ground ground) {
   const bool felt = ground == Ground::Felt;
-  painter.setFont(FontOf(9, true));
+  painter.setFont(FontOf(9, false));
   const QFontMetricsF metrics(painter.font());
   const double half = caption.isEmpty() ? 0 : metrics.height() / 2;
   const QRectF box = place.adjusted(0.5, half + 0.5, -0.5, -0.5);
   const QColor line = felt ? QColor(255, 255, 255, 90) : QColor(tone::Wood);
   painter.setPen(QPen(line, 1));
   painter.setBrush(felt ? QColor(0, 0, 0, 36) : QColor(255, 255, 255, 90));
-  painter.drawRoundedRect(box, 6, 6);
+  InBands(painter, place, [&] { painter.drawRoundedRect(box, 6, 6); });
   if (caption.isEmpty()) return;
   const QRectF plate(place.left() + 10, place.top(), metrics.horizontalAdvance(caption) + 12,
                      metrics.height());
@@ -69,21 +68,6 @@ void PaintGroup(QPainter& painter, const QRectF& place, const QString& caption, 
   painter.drawRoundedRect(plate.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
   painter.setPen(QColor(felt ? tone::Cream : tone::Ink));
   painter.drawText(plate, Qt::AlignCenter, caption);
-}
-
-void ShadeEdge(QPainter& painter, const QRect& strip, QPoint from, QPoint to) {
-  QLinearGradient shade(from, to);
-  shade.setColorAt(0, QColor(0, 0, 0, 70));
-  shade.setColorAt(1, QColor(0, 0, 0, 0));
-  painter.fillRect(strip, shade);
-}
-
-void ShadeEdges(QPainter& painter, QSize size, const QRect& part) {
-  const int w = size.width(), h = size.height(), e = EdgeShade;
-  if (part.top() < e) ShadeEdge(painter, QRect(0, 0, w, e), {0, 0}, {0, e});
-  if (part.bottom() >= h - e) ShadeEdge(painter, QRect(0, h - e, w, e), {0, h}, {0, h - e});
-  if (part.left() < e) ShadeEdge(painter, QRect(0, 0, e, h), {0, 0}, {e, 0});
-  if (part.right() >= w - e) ShadeEdge(painter, QRect(w - e, 0, e, h), {w, 0}, {w - e, 0});
 }
 
 }  // namespace
@@ -97,7 +81,7 @@ void PaintShape(QPainter& painter, const Shape& shape) {
       PaintSunken(painter, place);
       break;
     case Shape::Look::Board:
-      PaintBoard(painter, place);
+      InBands(painter, place.adjusted(-8, -8, 8, 8), [&] { PaintBoard(painter, place); });
       break;
     case Shape::Look::Outline: {
       // A dark rim keeps the colour apart from the card and from the table.
@@ -134,26 +118,11 @@ void PaintFrame(QPainter& painter, const Frame& frame) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   if (frame.FrameLook == Frame::Look::Panel) {
-    PaintPanel(painter, place);
+    InBands(painter, place.adjusted(-8, -8, 8, 8), [&] { PaintPanel(painter, place); });
   } else {
     PaintGroup(painter, place, ToQt(frame.Text()), GroundOf(frame.Owner()));
   }
   painter.restore();
-}
-
-void PaintGround(QPainter& painter, const Window& window, QSize size, const QRect& part,
-                 const Scene& scene) {
-  if (GroundOf(window) != Ground::Felt) {
-    painter.fillRect(part, ColorOf(Ground::Paper));
-    return;
-  }
-  const QPixmap tile = scene.artwork.Natural("felt", scene.ratio);
-  if (tile.isNull()) {
-    painter.fillRect(part, ColorOf(Ground::Felt));
-  } else {
-    painter.drawTiledPixmap(part, tile, part.topLeft());
-  }
-  ShadeEdges(painter, size, part);
 }
 
 void PaintFocus(QPainter& painter, const QRect& around) {

@@ -12,7 +12,9 @@ namespace {
 
 constexpr double ReadsWell = 4.0;
 constexpr double ReadsOnLight = 3.0;
-constexpr double SmallestShare = 0.85;  // a text is not shrunk further, but stands over its place
+// A text that is too wide for its place is shrunk to these shares of its size, and then stands over.
+constexpr double SmallestShare = 0.85;
+constexpr double SmallestTitleShare = 0.6;
 constexpr int MessageSize = 14;         // points; larger texts on the table get a plaque
 constexpr QMarginsF PlaqueMargins{9, 3, 9, 4};
 constexpr QMarginsF LampMargins{6, 1, 6, 1};
@@ -95,7 +97,8 @@ Lines Measure(const Label& label) {
   lines.texts = LinesOf(label, QFontMetricsF(lines.font), place.width());
   double width = WidestOf(lines.texts, QFontMetricsF(lines.font));
   if (width > place.width() && place.width() > 0) {
-    const double share = std::max(SmallestShare, place.width() / width);
+    const double least = label.FontSize() >= MessageSize ? SmallestTitleShare : SmallestShare;
+    const double share = std::max(least, place.width() / width);
     lines.font.setPixelSize(std::max(9, int(lines.font.pixelSize() * share)));
     width = WidestOf(lines.texts, QFontMetricsF(lines.font));
   }
@@ -122,10 +125,10 @@ void PaintPlaque(QPainter& painter, const QRectF& around) {
   painter.restore();
 }
 
-void PaintLamp(QPainter& painter, const QRectF& around) {
+void PaintLamp(QPainter& painter, const QRectF& around, const QRectF& place) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(tone::Lamp));
-  painter.drawRoundedRect(around.marginsAdded(LampMargins), 4, 4);
+  painter.drawRoundedRect(around.marginsAdded(LampMargins) & (around | place), 4, 4);
 }
 
 bool HasText(const Label& label) {
@@ -145,7 +148,7 @@ void PaintLabel(QPainter& painter, const Label& label, const Scene& scene) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   if (ink.under == Ink::Under::Plaque) PaintPlaque(painter, lines.area);
-  if (ink.under == Ink::Under::Lamp) PaintLamp(painter, lines.area);
+  if (ink.under == Ink::Under::Lamp) PaintLamp(painter, lines.area, ToQt(label.PlaceInWindow()));
   painter.setFont(lines.font);
   painter.setPen(ink.color);
   const QFontMetricsF metrics(lines.font);

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "ui/qt/accessible.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/boxes.h"
 #include "ui/qt/mnemonics.h"
@@ -72,6 +73,7 @@ QtPlatform::QtPlatform(int& argc, char** argv, Installation installation,
   QApplication::setQuitOnLastWindowClosed(false);
   mnemonics_ = std::make_unique<InstantMnemonics>();
   application_->installEventFilter(mnemonics_.get());
+  MakeBoardsAccessible();
   artwork_ = std::make_unique<Artwork>(ToQt(installation.pictures));
   timer_ = std::make_unique<QTimer>();
   timer_->setSingleShot(true);

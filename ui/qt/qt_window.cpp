@@ -56,6 +56,7 @@ void QtWindow::MakeControls() {
     LayOutForm(board_, model_->Layout(), [this](Control& control, QWidget* parent) {
       auto mirror = MakeDialogMirror(*this, control, parent);
       mirror->LeaveToLayout();
+      mirror->Sync();
       mirrors_.push_back(std::move(mirror));
       return mirrors_.back()->Widget();
     });
@@ -113,7 +114,7 @@ void QtWindow::Open(bool modal, const QtWindow* above) {
   }
   show();
   ComeForward();
-  if (platform_.Focus() && &platform_.Focus()->Owner() == model_) TakeFocus(*platform_.Focus());
+  if (Control* focus = platform_.FocusOf(*model_)) TakeFocus(*focus);
   if (!focusWidget()) {
     board_->setFocus(Qt::OtherFocusReason);
     if (!model_->Layout().Empty()) focusNextChild();
@@ -195,7 +196,8 @@ void QtWindow::SyncControls() {
 void QtWindow::SyncWindow() {
   windowChanged_ = false;
   setWindowTitle(ToQt(model_->Caption()));
-  if (model_->Hourglass()) {
+  // The pointer's picture is not worth the time before the first frame.
+  if (model_->Hourglass() && board_->HasBeenPainted()) {
     setCursor(Qt::WaitCursor);
     board_->setCursor(Qt::WaitCursor);
   } else if (cursor().shape() == Qt::WaitCursor) {
@@ -242,7 +244,7 @@ void QtWindow::Act(Control& control, std::function<void()> act) {
 }
 
 void QtWindow::FocusMoved(Control& control) {
-  if (syncing_ || !model_ || platform_.Focus() == &control) return;
+  if (syncing_ || !model_ || platform_.FocusOf(*model_) == &control) return;
   Act(control, [this, &control] { platform_.UserFocus(control); });
 }
 
@@ -333,6 +335,10 @@ void QtWindow::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
   if ((key == Qt::Key_Return || key == Qt::Key_Enter) && PressButton(Button::Role::Default)) return;
   if (key == Qt::Key_Escape && PressButton(Button::Role::Cancel)) return;
+  if (key == Qt::Key_Escape && model_->IsModal()) {
+    close();
+    return;
+  }
   const QString text = event->text();
   const auto others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
   if (text.isEmpty() || !text.at(0).isPrint() || event->modifiers() & others) {
@@ -342,7 +348,7 @@ void QtWindow::keyPressEvent(QKeyEvent* event) {
   for (const char32_t letter : text.toStdU32String()) {
     if (!model_) return;
     platform_.Act(*model_, [this, letter] {
-      if (model_) platform_.Run([this, letter] { model_->KeyTyped(letter); });
+      if (model_) platform_.UserStrike(*model_, letter);
     });
   }
 }

@@ -16,6 +16,7 @@ namespace ui::qt {
 namespace {
 
 constexpr std::chrono::seconds PatienceAtEnd{2};
+constexpr std::size_t MostOrders = 64;  // that wait for a device that hangs
 
 std::uint32_t BigEndian(const std::array<char, 8>& head) {
   std::uint32_t value = 0;
@@ -55,6 +56,7 @@ class Sound::Player {
 
   void Do(Order order) {
     const std::lock_guard lock(mutex_);
+    if (orders_.size() >= MostOrders) orders_.pop_front();
     orders_.push_back(std::move(order));
     changed_.notify_all();
   }

@@ -7,6 +7,7 @@
 #include <QProxyStyle>
 #include <QStyleOptionButton>
 
+#include "ui/qt/bands.h"
 #include "ui/qt/ground.h"
 
 namespace ui::qt {
@@ -22,7 +23,9 @@ class Style : public QProxyStyle {
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-    if (element == PE_PanelButtonCommand) return DrawButton(*option, *painter);
+    if (element == PE_PanelButtonCommand) {
+      return InBands(*painter, option->rect, [&] { DrawButton(*option, *painter); });
+    }
     if (element == PE_FrameFocusRect && widget && widget->inherits("QPushButton")) return;
     if (element == PE_FrameStatusBarItem) return;
     QProxyStyle::drawPrimitive(element, option, painter, widget);

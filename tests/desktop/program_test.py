@@ -1,0 +1,161 @@
+"""The desktop program played by a person: pointer, keys, questions, dialogs and sounds."""
+
+import array
+import itertools
+import os
+import sys
+import tempfile
+import time
+
+from desktop import Program, check, play
+
+PASTIMO = sys.argv[1]
+GOAL = 11
+FIELD = ["FieldCardPicture(%d)" % i for i in range(22)]
+
+
+def start(display, **environment):
+    home = tempfile.mkdtemp()
+    return Program(display, [PASTIMO], PASTIMO_HOME=home, **environment), home
+
+
+def open_quindle(program):
+    program.click("cmdQuindle")
+    program.place("cmdPlay")
+    program.until(lambda: program.ask("windows") == "frmQuindle frmSelect:hidden", "the game alone")
+    time.sleep(0.3)
+
+
+def rank(key):
+    return int(key[:-1])
+
+
+def exposed(program):
+    """The cards of the field that no later card lies upon."""
+    places = []
+    for name in FIELD:
+        answer = program.ask("place " + name)
+        places.append(None if answer == "none" else [int(word) for word in answer.split()])
+
+    def overlap(a, b):
+        return abs(a[0] - b[0]) < a[2] and abs(a[1] - b[1]) < a[3]
+
+    return [name for i, name in enumerate(FIELD) if places[i] and not any(
+        later and overlap(places[i], later) for later in places[i + 1:])]
+
+
+def a_set(program):
+    """Cards that can be selected and make the goal; nothing if there are none."""
+    names = [name for name in exposed(program) + ["UpCardPicture"]
+             if program.text(name)[-1:] in tuple("SHCD")]
+    for count in range(1, len(names) + 1):
+        for cards in itertools.combinations(names, count):
+            if sum(rank(program.text(card)) for card in cards) == GOAL:
+                return cards
+    return ()
+
+
+def make_sets(program, wanted):
+    """Makes so many sets, and draws as often as it takes; returns the number of draws."""
+    draws = 0
+    while int(program.text("lblCurrentElevens")) < wanted:
+        before = program.text("lblCurrentElevens")
+        cards = a_set(program)
+        for card in cards:
+            program.click(card, 0.5, 0.85)
+        if cards:
+            program.until(lambda: program.text("lblCurrentElevens") != before, "a set: %s" % (cards,))
+        else:
+            count = program.text("lblCardCount")
+            program.click("PlayCardPicture")
+            program.until(lambda: program.text("lblCardCount") != count, "a draw")
+            draws += 1
+        time.sleep(0.05)
+    return draws
+
+
+def a_game_of_quindle(display):
+    program, home = start(display)
+    open_quindle(program)
+    program.keys("alt+o", "d")
+    program.keys("alt+p")
+    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "thirty cards to draw")
+    check(program.ask("spoken " + FIELD[21]).startswith("button "), "a card is spoken of")
+
+    draws = make_sets(program, 2)
+    program.click("PlayCardPicture")
+    program.until(lambda: program.text("lblCardCount") == "Cards: %d" % (29 - draws), "one drawn")
+
+    program.keys("alt+s")
+    program.until(lambda: program.text("lblMessage") == "Game Paused", "a pause")
+    check(program.text(FIELD[0]) == "BACK", "a paused card is turned down")
+    program.keys("alt+r")
+    program.until(lambda: program.text("cmdPause") == "Pau&se", "the game goes on")
+
+    program.keys("alt+t")
+    program.until(lambda: "Speed Bonus" in program.text("lblMessage"), "the bonus is counted")
+    for _ in range(3):
+        program.click("cmdExit")
+        program.click("lblCardCount")
+    check("Speed Bonus" in program.text("lblMessage"), "a click has disturbed the count")
+    program.until(lambda: program.text("lblCurrentRound") == "2", "round two")
+    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "a fresh deck")
+    check(program.text("lblCurrentTotal") == "0", "a click came late")
+    check(program.ask("windows") == "frmQuindle frmSelect:hidden", "a click came late")
+
+    time.sleep(0.3)
+    program.keys("alt+e")
+    time.sleep(0.5)
+    program.keys("alt+y")
+    program.until(lambda: program.text("cmdPlay") == "&Play", "the game is over")
+    time.sleep(0.3)
+    program.keys("alt+F4")
+    time.sleep(0.5)
+    program.keys("alt+y")
+    program.until(lambda: program.ask("windows") == "frmSelect", "back in the launcher")
+    time.sleep(0.3)
+    program.click("cmdClose")
+    check(program.ended() == 0, "exit status")
+    check(os.path.exists(os.path.join(home, "Quindle.Ini")), "settings are written")
+
+
+def loudest(path):
+    with open(path, "rb") as file:
+        raw = file.read()
+    samples = array.array("h", raw[: len(raw) // 2 * 2])
+    return max(map(abs, samples), default=0)
+
+
+def sounds(display):
+    """What is played is heard where sounds are on, and nothing is where they are off."""
+    record = os.path.join(tempfile.mkdtemp(), "sound")
+    heard = dict(SDL_AUDIODRIVER="disk", SDL_DISKAUDIOFILE=record)
+    program, _ = start(display, **heard)
+    check(not os.path.exists(record), "the sound device is opened at the start")
+    open_quindle(program)
+    program.keys("alt+p")
+    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "a game")
+    program.click("PlayCardPicture")
+    program.until(lambda: os.path.exists(record) and loudest(record) > 1000, "a wave is heard")
+    program.close()
+
+    os.remove(record)
+    program, _ = start(display, **heard)
+    open_quindle(program)
+    program.keys("alt+o", "p")
+    program.keys("alt+p")
+    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "a game")
+    program.click("PlayCardPicture")
+    time.sleep(0.7)
+    check(not os.path.exists(record) or loudest(record) == 0, "sounds are off")
+    program.close()
+
+    program, _ = start(display, **heard)
+    open_quindle(program)
+    program.keys("alt+o", "p")
+    program.keys("alt+o", "m")
+    program.keys("alt+p")
+    program.until(lambda: os.path.exists(record) and loudest(record) > 1000, "music is heard")
+
+
+play([a_game_of_quindle, sounds])
