@@ -12,7 +12,7 @@ void Background::Choose() {
       {.purpose = ui::FileDialog::Purpose::Open,
        .title = "Select Background Image",
        .filter = "Pictures (*.bmp;*.gif;*.ico;*.jpg)|*.bmp;*.gif;*.ico;*.jpg",
-       .defaultExtension = "*.bmp",
+       .defaultExtension = "",
        .fileName = "*.bmp"});
   if (!path || path->empty()) return;
   path_ = *path;
