@@ -12,15 +12,13 @@ void Background::Choose() {
       {.purpose = ui::FileDialog::Purpose::Open,
        .title = "Select Background Image",
        .filter = "Pictures (*.bmp;*.gif;*.ico;*.jpg)|*.bmp;*.gif;*.ico;*.jpg",
-       .defaultExtension = "*.bmp",
+       .defaultExtension = "",
        .fileName = "*.bmp"});
   if (!path || path->empty()) return;
-  if (!suite_.platform.CanShowPicture(*path)) {
-    suite_.Tell(ui::Sign::Exclamation, "Unable to show '" + *path + "' as a picture.");
-    return;
-  }
   path_ = *path;
   Show();
+  if (!image_().empty()) return;
+  suite_.Tell(ui::Sign::Exclamation, "Unable to show '" + path_ + "' as a picture.");
 }
 
 void Background::Clear() {

@@ -18,7 +18,8 @@ class Background {
   void SetDefault() { path_ = suite_.PathOf("Pastimo.gif"); }
   SettingsKey Key(std::string key) { return Text(std::move(key), path_); }
   void Show();
-  /// Lets the player choose a file. Cancelled, or a file that is no picture: all stays as it was.
+  /// Lets the player choose a file, and says so if that can't be shown. Cancelled, all stays as it
+  /// was.
   void Choose();
   void Clear();
 
