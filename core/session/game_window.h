@@ -188,7 +188,6 @@ class GameWindow : public ui::Window, public TableOwner {
   /// Asks a question with Yes and No; ends the handler if the window was closed behind it.
   bool Ask(const std::string& question);
 
-  bool StandsStill() const;  ///< minimized, in a game that stops then
   bool PlayingNow() const;  ///< a game runs and could be paused
   bool Paused() const;
   /// Pauses a playing game for a dialog; true if it has to be resumed after it.
