@@ -90,6 +90,12 @@ class Program:
         self.display.run("xdotool", "mousemove", str(int(left + width * x)),
                          str(int(top + height * y)))
 
+    def click_at(self, place):
+        """A click in the middle of a place that was asked for before."""
+        left, top, width, height = place
+        self.display.run("xdotool", "mousemove", str(left + width // 2), str(top + height // 2),
+                         "click", "1")
+
     def click(self, name, x=0.5, y=0.5):
         self.move(name, x, y)
         self.display.run("xdotool", "click", "1")
@@ -156,7 +162,9 @@ def check(condition, what):
 
 
 def play(tests):
-    """Runs each test on one display; the exit status tells whether all went well."""
+    """Runs each test on one display; the exit status tells whether all went well.
+
+    With PASTIMO_SHOTS naming a directory, what the display showed at a failure is kept there."""
     display = Display()
     failed = 0
     try:
@@ -165,6 +173,8 @@ def play(tests):
                 test(display)
                 print("ok   " + test.__name__, flush=True)
             except Failure as failure:
+                if "PASTIMO_SHOTS" in os.environ:
+                    display.shot(os.path.join(os.environ["PASTIMO_SHOTS"], test.__name__ + ".png"))
                 failed += 1
                 print("FAIL %s: %s" % (test.__name__, failure), flush=True)
             while display.programs:

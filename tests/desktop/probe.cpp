@@ -100,7 +100,7 @@ class Probe::Reader {
   static std::string PlaceOf(const ui::Control& control) {
     const QString name = ui::qt::ToQt(control.FullName());
     for (QWidget* top : QApplication::topLevelWidgets()) {
-      if (top->objectName() != ui::qt::ToQt(control.Owner().Name()) || !top->isVisible()) continue;
+      if (top->objectName() != ui::qt::ToQt(control.Owner().Name()) || !IsOnScreen(*top)) continue;
       if (auto* widget = top->findChild<QWidget*>(name)) {
         return widget->isVisible() ? OnScreen(*widget, widget->rect()) : "none";
       }
@@ -110,6 +110,10 @@ class Probe::Reader {
       }
     }
     return "none";
+  }
+
+  static bool IsOnScreen(const QWidget& top) {
+    return top.isVisible() && top.windowHandle() && top.windowHandle()->isExposed();
   }
 
   static std::string OnScreen(const QWidget& widget, const QRect& area) {
