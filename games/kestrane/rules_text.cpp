@@ -23,11 +23,12 @@ const std::string Moves =
 
 core::RulesText frmKestrane::Rules() const {
   core::RulesText text;
-  text.object = core::ObjectOfGame(
-      shared.GameTitle, "There are two rounds", shared.TimeLimit,
-      "If you have made " + Masked(values_.BonusScore) +
-          " points or more after round two, you are invited to a third one, the Bonus Round.");
-  text.introduction = Board + core::ParagraphEnd + Moves;
+  text.object =
+      core::ObjectOfGame(
+          shared.GameTitle, "There are two rounds", shared.TimeLimit,
+          "If you have made " + Masked(values_.BonusScore) +
+              " points or more after round two, you are invited to a third one, the Bonus Round.") +
+      core::ParagraphEnd + Board + core::ParagraphEnd + Moves;
   text.points = {
       "Trip: three cards of the same rank in one column pay " + Masked(values_.TripsScore) +
           " points. The column is cleared at once.",
@@ -52,8 +53,8 @@ core::RulesText frmKestrane::Rules() const {
       "it: tidy up what is left on the board, and then take the score. If you take the score "
       "before the deck is used up, there is no Deck Completion Bonus, but the cards on the board "
       "cost nothing either.",
-      "Trips pay far more than runs, so give each rank that you see twice a column of its own, "
-      "and use runs to get rid of what is in the way.",
+      "By the usual values a trip pays far more than a run, so give each rank that you see twice a "
+      "column of its own, and use runs to get rid of what is in the way.",
       "A full column that is neither a trip nor a run is not lost: move its last card to the "
       "storage or to another column. But keep a spot of the storage free for that; one free spot "
       "is enough to play on.",
