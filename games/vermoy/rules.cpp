@@ -23,6 +23,7 @@ void TransposeGrid(Grid& grid) {
 
 void Rules::Reset() {
   gridCards_.fill("");
+  cards_.fill({});
   dealtCards_.clear();
   cardExposed_ = false;
   holeCard_.clear();
@@ -63,6 +64,7 @@ Placed Rules::Place(int cell) {
   std::string& key = gridCards_[static_cast<std::size_t>(cell)];
   if (!key.empty()) ++overWritesUsed_;
   key = holeCard_;
+  cards_[static_cast<std::size_t>(cell)] = CardOf(key);
   cardExposed_ = false;
   holeCard_.clear();
   placed.handsMade = EvaluateGrid();
@@ -72,8 +74,7 @@ Placed Rules::Place(int cell) {
 }
 
 int Rules::EvaluateGrid() {
-  Grid grid;
-  std::transform(gridCards_.begin(), gridCards_.end(), grid.begin(), CardOf);
+  Grid grid = cards_;
   std::int64_t points = 0;
   int made = EvaluateLines(grid, rowHands_, points);
   TransposeGrid(grid);

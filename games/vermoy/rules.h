@@ -75,6 +75,7 @@ class Rules {
 
   const Values& values_;
   std::array<std::string, Cells> gridCards_;
+  Grid cards_;                           ///< what counts of them
   std::vector<std::string> dealtCards_;  ///< from index 0
   bool cardExposed_ = false;
   std::string holeCard_;
