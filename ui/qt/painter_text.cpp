@@ -11,6 +11,7 @@ namespace ui::qt {
 namespace {
 
 constexpr double ReadsWell = 4.5;
+constexpr double ReadsTinted = 3.2;  // enough, and the hue is still plain
 constexpr double ReadsOnLight = 3.0;
 // A text that is too wide for its place is shrunk to these shares of its size, and then stands over.
 constexpr double SmallestShare = 0.85;
@@ -32,7 +33,7 @@ QColor Lightened(const QColor& color, const QColor& ground) {
   float hue = 0, saturation = 0, lightness = 0;
   color.getHslF(&hue, &saturation, &lightness);
   QColor ink = color;
-  for (; lightness < 0.95F && Contrast(ink, ground) < ReadsWell; lightness += 0.02F) {
+  for (; lightness < 0.95F && Contrast(ink, ground) < ReadsTinted; lightness += 0.02F) {
     ink = QColor::fromHslF(std::max(0.0F, hue), saturation, lightness);
   }
   return ink;
