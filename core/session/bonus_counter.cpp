@@ -12,6 +12,8 @@ constexpr int SpeedBonusPause = 2000;
 constexpr int BonusPause = 1000;
 constexpr int StepPause = 75;
 constexpr double StepsOfABonus = 20;
+/// Far more than a score can hold, and little enough to be counted without overflow.
+constexpr std::int64_t MostPoints = std::int64_t{1} << 40;
 
 }  // namespace
 
@@ -22,12 +24,13 @@ BonusCounter::BonusCounter(ui::Window& window, Suite& suite, RoundClock& clock, 
 void BonusCounter::AwardSpeedBonus(std::int64_t perSecond) {
   const int seconds = suite_.shared.SecondsLeft();
   const std::int64_t factor = style_.speedFactor ? style_.speedFactor() : 1;
-  const std::int64_t amount = Product(seconds, Product(perSecond, factor));
+  const std::int64_t step = std::clamp(Product(perSecond, factor), -MostPoints, MostPoints);
+  const std::int64_t amount = seconds * step;
   if (style_.writesSpeedTitle) labels_.title.Text = "Speed Bonus!";
   ShowAmount(amount, style_.placeSpeedBonus);
   suite_.platform.Wait(SpeedBonusPause);
   if (suite_.shared.CountDownScoring) {
-    CountSeconds(amount, Product(perSecond, factor));
+    CountSeconds(amount, step);
   } else {
     Pay(amount);
   }

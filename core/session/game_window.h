@@ -174,6 +174,8 @@ class GameWindow : public ui::Window, public TableOwner {
   /// Swaps the label between red and black so many times, with a wait after each.
   void Flash(ui::Label& label, int times, int milliseconds = 250);
   void WriteScore();
+  /// Adds to the score and shows it.
+  void AddPoints(std::int64_t points);
 
   /// Serves what the player did while a round was scored, without effect.
   void ServeAndDrop();
@@ -186,7 +188,6 @@ class GameWindow : public ui::Window, public TableOwner {
   /// Asks a question with Yes and No; ends the handler if the window was closed behind it.
   bool Ask(const std::string& question);
 
-  bool StandsStill() const;  ///< minimized, in a game that stops then
   bool PlayingNow() const;  ///< a game runs and could be paused
   bool Paused() const;
   /// Pauses a playing game for a dialog; true if it has to be resumed after it.
@@ -200,7 +201,7 @@ class GameWindow : public ui::Window, public TableOwner {
   void CreateTableIfMissing();
   void ShowTableTop();
   /// "Game Over" for a while, then the title panel.
-  void ShowGameOver(int milliseconds);
+  void ShowGameOver(int milliseconds, ui::Color color = ui::Red);
   void ShowTitle(bool visible);
 
   /// "Make " and a score, then `ending`, on the first panel.

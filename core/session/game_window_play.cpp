@@ -190,6 +190,11 @@ void GameWindow::WriteScore() {
   Score.Number.Text = Masked(shared.CurrentScore);
 }
 
+void GameWindow::AddPoints(std::int64_t points) {
+  shared.AddToScore(points);
+  WriteScore();
+}
+
 void GameWindow::ServeAndDrop() {
   DropsInput = true;
   suite.platform.ServeEvents();
@@ -246,8 +251,8 @@ void GameWindow::FinishGame() {
   StatusBar1(2).Text = "Game Over";
 }
 
-void GameWindow::ShowGameOver(int milliseconds) {
-  ShowMessage("Game Over", ui::Red);
+void GameWindow::ShowGameOver(int milliseconds, ui::Color color) {
+  ShowMessage("Game Over", color);
   Wait(milliseconds);
   ShowTitle(true);
   Message.Visible = false;

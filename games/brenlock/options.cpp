@@ -1,5 +1,4 @@
 // Brenlock's settings file, what counts as default scoring, and the scoring dialog as a table.
-#include <algorithm>
 #include <limits>
 
 #include "core/scoring/scoring_dialog.h"
@@ -14,8 +13,9 @@ using core::Below;
 using core::FieldTest;
 using core::ScoringDialog;
 
-constexpr std::int16_t LongestWait = std::numeric_limits<std::int16_t>::max();  // milliseconds
-constexpr int MillisecondsPerSecond = 1000;
+// Milliseconds.
+constexpr std::int32_t LongestWait = std::numeric_limits<std::int16_t>::max();
+constexpr std::int32_t LongestWaitOfDialog = 30000;
 constexpr int HighestTimeBonus = 10000;
 const Values Standard;
 
@@ -31,8 +31,6 @@ std::vector<FieldTest> TimeBonusTests(FieldTest againstTheOther, const std::stri
 }
 
 }  // namespace
-
-// --- the settings file --------------------------------------------------------------------------
 
 void frmBrenlock::SetDefaults() {
   values_ = Values{};
@@ -50,22 +48,13 @@ std::vector<core::SettingsKey> frmBrenlock::Settings() {
           core::Number("[TimeBonusMax]", values_.TimeBonusMax),
           core::Number("[TimeBonusMin]", values_.TimeBonusMin),
           core::Number("[BonusScore]", values_.BonusScore),
-          WaitPeriodKey(),
+          WaitPeriodKey("[WaitPeriod]", LongestWait),
           CountDownKey("[CountDownScore]"),
           CardsToPassKey(),
           StateKey(),
           WidthKey(),
           HeightKey(),
           TimeKey()};
-}
-
-core::SettingsKey frmBrenlock::WaitPeriodKey() {
-  core::SettingsKey key = core::Number("[WaitPeriod]", shared.WaitPeriod);
-  key.read = [this](const std::string& value) {
-    shared.WaitPeriod =
-        static_cast<std::int32_t>(std::clamp<std::int64_t>(core::WholeIn(value), 0, LongestWait));
-  };
-  return key;
 }
 
 core::SettingsKey frmBrenlock::CardsToPassKey() {
@@ -86,13 +75,6 @@ std::vector<core::ScoringValue> frmBrenlock::ScoringValues() const {
           {values_.TimeBonusMax, Standard.TimeBonusMax},
           {values_.BonusScore, Standard.BonusScore},
           {shared.PassesLeft, StandardCardsToPass}};
-}
-
-// --- the scoring dialog -------------------------------------------------------------------------
-
-void frmBrenlock::ShowScoringDialog() {
-  ScoringDialog dialog(suite, ScoringTableOfDialog());
-  suite.ShowModal(dialog);
 }
 
 core::NumberField frmBrenlock::TimeBonusMaxField() {
@@ -118,54 +100,30 @@ core::NumberField frmBrenlock::TimeBonusMinField() {
   core::NumberField field =
       core::Field("txtTimeBonusMin", "Minimum Time Bonus value:", values_.TimeBonusMin,
                   TimeBonusTests(test, "minimum"), Standard.TimeBonusMin);
-  field.passed = [this](ScoringDialog& dialog) { ApplyScoring(dialog); };
+  field.passed = [this](ScoringDialog& dialog) {
+    rules_.SetTimeBonusDecay(shared.TimeLimit);
+    ApplyScoring(dialog, values_.BonusScore);
+  };
   return field;
 }
 
-void frmBrenlock::ApplyScoring(ScoringDialog& dialog) {
-  rules_.SetTimeBonusDecay(shared.TimeLimit);
-  shared.CountDownScoring = dialog.Checked("chkCountScore");
-  CheckForCustom();
-  ShowGoal(values_.BonusScore, " for bonus round.  ");
-}
-
 core::ScoringTable frmBrenlock::ScoringTableOfDialog() {
-  core::NumberField passes = core::Field(
-      "txtNumberOfCardsToPass", "Number of cards user may pass (0 - 10):", shared.CardsToPass,
-      {Below(0, "Sorry, you cannot pass fewer than 0 cards."),
-       Above(10, "Sorry, you cannot pass more than 10 cards.")},
-      StandardCardsToPass);
+  core::NumberField passes = PassesField(StandardCardsToPass);
   passes.store = [this](double number) { SetCardsToPass(number); };
-  core::NumberField wait = core::Field(
-      "txtWaitPeriod", "Seconds to wait between Rounds (0 - 10):", shared.WaitPeriod,
-      {Below(0, "Sorry, a minimum of 0 seconds is required for the waiting period between rounds."),
-       Above(30,
-             "Sorry, a maximum of 30 seconds is allowed for the waiting period between rounds.")},
-      StandardWaitPeriod / MillisecondsPerSecond, MillisecondsPerSecond);
-  wait.defaultStores = false;
-
-  core::ScoringTable table;
-  table.window = "frmBrenlockCustomScoring";
-  table.frame = "frmCustomScoring";
+  core::ScoringTable table = EmptyTable("frmBrenlockCustomScoring", StandardTimeLimit);
   table.items = {
-      core::Field("txtBonus", "Score required for Bonus:", values_.BonusScore,
-                  {Below(0, "Sorry, a minimum of 0 is required for the bonus round score."),
-                   Above(2147483647,
-                         "Sorry, the maximum value for achieving a bonus round is 2147483647.")},
-                  Standard.BonusScore),
+      BonusScoreField(values_.BonusScore, Standard.BonusScore),
       TimeBonusMaxField(),
       TimeBonusMinField(),
       passes,
-      wait,
-      core::CheckField{"chkCountScore", "Count down &when taking score",
-                       [this] { return shared.CountDownScoring; }},
+      WaitField(LongestWaitOfDialog, StandardWaitPeriod),
+      CountField(),
       core::NoteField{"lblInfo",
                       "Note: Changing any of the Scoring Options or the number of cards a user may "
                       "pass will cause your high scores to be marked with an * indicating custom "
                       "scoring was in use."}};
   table.testOrder = {"txtNumberOfCardsToPass", "txtWaitPeriod", "txtBonus", "txtTimeBonusMax",
                      "txtTimeBonusMin"};
-  table.defaults = [this](ScoringDialog&) { ChooseTimeLimit(StandardTimeLimit); };
   return table;
 }
 

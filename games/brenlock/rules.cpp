@@ -91,7 +91,7 @@ std::int32_t Rules::ScoreStep() const {
   return std::max(ClampTo<std::int32_t>(core::Product(TimeBonusesInStep, CurrentTimeBonus)), 0);
 }
 
-int Rules::RoundToPlay(int round, std::int32_t score) const {
+std::int16_t Rules::RoundToPlay(std::int16_t round, std::int32_t score) const {
   if (round == BonusRound && score < values_.BonusScore) return AfterLastRound;
   return round;
 }

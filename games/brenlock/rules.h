@@ -64,7 +64,7 @@ class Rules : public columns::Columns {
   std::int32_t ScoreStep() const;
 
   /// The round that is next after this one: itself, or AfterLastRound.
-  int RoundToPlay(int round, std::int32_t score) const;
+  std::int16_t RoundToPlay(std::int16_t round, std::int32_t score) const;
 
  private:
   HitResult CalculateColumnValue(int column);

@@ -8,16 +8,19 @@
 namespace games::brenlock {
 namespace {
 
-using core::Digits;
+using core::Design;
 
 constexpr int ButtonColumn = 92;  // kept free at the right edge
 constexpr int ColumnWidth = 104;
 constexpr int LowerHeight = 169;  // of all that stands below the columns
+constexpr int FirstTableRow = 20;
+constexpr int TableRowHeight = 14;
 
-core::Vocabulary Words() {
+core::Vocabulary Words(std::vector<core::DeckEntry> decks) {
   core::Vocabulary words;
   words.window = "frmBrenlock";
   words.settingsFile = "Brenlock.Ini";
+  words.welcomeEnd = "   ";
   words.exit = "cmdQuit";
   words.exitTip = "Closes Brenlock";
   words.message = "ScoringLabel";
@@ -29,75 +32,47 @@ core::Vocabulary Words() {
                        {45, "&45 Seconds"},
                        {60, "&60 Seconds (default)"},
                        {75, "&75 Seconds"}};
-  words.deckEntries = {{"mnuPalm", "&Palm Tree", core::Design::Palm, 4},
-                       {"mnuNight", "&Night Castle", core::Design::Night, 3},
-                       {"mnuMagic", "&Magic Hands", core::Design::Magic, 2},
-                       {"mnuHot", "&Hot Cards", core::Design::Hot, 1}};
+  words.deckEntries = std::move(decks);
   return words;
+}
+
+/// The labels of the table's values are not all spelt alike.
+std::string ValueName(int total) {
+  return (total < 104 ? "lblscore" : "lblScore") + std::to_string(total);
 }
 
 }  // namespace
 
 frmBrenlock::frmBrenlock(core::Suite& suite, const core::GameEntry& entry)
-    : GameWindow(suite, entry, Words()),
-      rules_(suite.deck, {shared.DeckIndex, shared.PassesLeft, shared.CardsToPass, shared.SoftAces},
-             values_) {
+    : ColumnWindow(suite, entry,
+                   Words(Decks({Design::Palm, Design::Night, Design::Magic, Design::Hot})),
+                   {ColumnCount, ColumnCount, ColumnWidth, true}),
+      rules_(suite.deck, ValuesOfColumns(), values_) {
   using core::Command;
-  BuildMenu({
-      {"mnuFile",
-       "&File",
-       Command::Other,
-       {},
-       {{"mnuPlay", "&Play", Command::Play},
-        {"mnuPause", "Pau&se", Command::Pause},
-        {"mnuExit", "E&xit", Command::Exit}}},
-      {"mnuOptions",
-       "&Options",
-       Command::Other,
-       {},
-       {{"mnuViewHighScores", "&View High Scores...", Command::ViewHighScores},
-        {"mnuClearHighScores", "&Clear High Scores", Command::ClearHighScores},
-        {"mnuMusic", "Play &Music  (plays during game)", Command::Music},
-        {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
-        {"mnuSounds", "&Play Sounds", Command::Sounds},
-        {"mnuCustom", "&User Options...", Command::Custom}}},
-      {"mnuTime", "&Time limit", Command::Time, {}, TimeRows()},
-      {"mnuDeck", "&Deck", Command::Other, {}, DeckRows()},
-      {"mnuHelp",
-       "&Help",
-       Command::Other,
-       {},
-       {{"mnuRules", "&Rules", Command::Rules},
-        {"mnuReadme", "&View Readme File", Command::Readme},
-        {"mnuAbout", "&About", Command::About}}},
-  });
+  BuildMenu({FileMenu(),
+             OptionsMenu({"mnuClearHighScores", "&Clear High Scores", Command::ClearHighScores},
+                         "Play &Music  (plays during game)", "mnuCustom"),
+             {"mnuTime", "&Time limit", Command::Time, {}, TimeRows()},
+             core::Heading("mnuDeck", "&Deck", DeckRows()),
+             HelpMenu("&Rules")});
+  MakeTable();
   CardTotal.Number.Text = "0";
   CardTotal.Number.TextColor = ui::Red;
   CardTotal.Number.OnChange = [this] { lblCurrentTotal_Change(); };
   cmdGiveUp.Pointer = "POINTER";
   Clock.lblTime.Text = "Time Bonus:";
-  for (ui::Label* label : {&lblTimeBonus, &lblRound}) {
-    label->TextColor = ui::Blue;
-    label->Bold = true;
-    label->FontSize = 12;
-  }
+  StyleCounters({&lblTimeBonus});
+  lblTimeBonus.FontSize = lblRound.FontSize = 12;
   ScoringLabelRoundTotal.FontSize = Message.FontSize;
   ScoringLabelRoundTotal.Bold = ScoringLabelInfo.Bold = true;
-  for (ui::Control* control : std::initializer_list<ui::Control*>{
-           &ScoringLabelOutline, &ScoringLabelRoundTotal, &ScoringLabelInfo, &Message}) {
-    BringToFront(*control);
-  }
+  BringMessageToFront();
+  BringToFront(ScoringLabelRoundTotal);
+  BringToFront(ScoringLabelInfo);
   ShowCards(false);
   ShowHitButtons(false);
   ShowScoringLabel(false);
-  ScoringLabelOutline.Visible = false;
-  ShowControls(false, false);
+  ShowBoard(false);
   lblHighScore.Visible = true;
-}
-
-void frmBrenlock::Loaded() {
-  rules_.SetTimeBonusDecay(shared.TimeLimit);
-  StatusBar1(1).Text = "Welcome to " + shared.GameTitle + "   ";
 }
 
 // --- the board ----------------------------------------------------------------------------------
@@ -108,7 +83,6 @@ void frmBrenlock::PlaceBoard(ui::Size inner) {
   const int top = std::max(4, (lower - columns::ColumnBoard::Height) / 2);
   Board.PlaceColumns(middle - ColumnCount * ColumnWidth / 2, top);
   ScoringLabelOutline.Place = {middle - 262, top + 56, 524, 92};
-
   Board.PlacePiles(middle - 260, lower + 4);
   CardTotal.SetPlace({middle - 80, lower + 4, 110, 44});
   cmdGiveUp.Place = {middle - 80, lower + 56, 110, 30};
@@ -116,18 +90,12 @@ void frmBrenlock::PlaceBoard(ui::Size inner) {
   core::CenterIn(lblRound, {middle - 76, lower + 97, 102, 22});
   Score.SetPlace({middle + 38, lower + 84, 126, 44});
   core::CenterIn(lblHighScore, {middle - 80, lower + 130, 244, 20});
-  Table.frmScore.Place = {middle + 168, lower, ScoreTable::Extent.w, ScoreTable::Extent.h};
-
+  frmScore.Place = {middle + 168, lower, 106, 166};
   const int right = inner.w - core::RoundClock::Extent.w - 4;
   Clock.SetPlace({right, 120});
   TimeBonusFrame.SetPlace({right, 228, core::RoundClock::Extent.w, 28});
   core::CenterIn(lblTimeBonus, {right + 2, 231, core::RoundClock::Extent.w - 4, 22});
-  ScoringLabelRoundTotal.Visible() ? PlaceRoundTotal() : CenterScoringLabel();
-}
-
-void frmBrenlock::CenterScoringLabel() {
-  const ui::Rect outline = ScoringLabelOutline.Place();
-  core::CenterIn(Message, {outline.x + 4, outline.CenterY() - 20, outline.w - 8, 40});
+  ScoringLabelRoundTotal.Visible() ? PlaceRoundTotal() : CenterMessage();
 }
 
 /// The round's total beside its words, and the line under both.
@@ -141,6 +109,36 @@ void frmBrenlock::PlaceRoundTotal() {
   core::CenterIn(ScoringLabelInfo, {outline.x + 4, outline.y + 56, outline.w - 8, 24});
 }
 
+void frmBrenlock::MakeTable() {
+  const auto add = [this](const std::string& totalName, const std::string& total,
+                          const std::string& valueName, int value) {
+    const int y = FirstTableRow + static_cast<int>(table_.size()) * TableRowHeight;
+    TableRow row{std::make_unique<ui::Label>(this, totalName, total),
+                 std::make_unique<ui::Label>(this, valueName, std::to_string(value))};
+    core::CenterIn(*row.total, {4, y, 48, TableRowHeight});
+    core::CenterIn(*row.value, {54, y, 48, TableRowHeight});
+    row.total->SetContainer(&frmScore);
+    row.value->SetContainer(&frmScore);
+    table_.push_back(std::move(row));
+  };
+  add("lblNothing", "< " + std::to_string(LowestScoring), "lblScore0", 0);
+  for (int total = LowestScoring; total <= HighestScoring; ++total) {
+    const std::string number = std::to_string(total);
+    add("lbl" + number, number, ValueName(total), brenlock::Rules::ValueOf(total));
+  }
+}
+
+void frmBrenlock::UpdateCardTotalValue() {
+  const auto marked = static_cast<std::size_t>(std::max(0, rules_.CardTotal - LowestScoring + 1));
+  for (std::size_t row = 0; row < table_.size(); ++row) {
+    for (ui::Label* label : {table_[row].total.get(), table_[row].value.get()}) {
+      label->TextColor = row == marked ? ui::Red : ui::Black;
+      label->Bold = row == marked;
+    }
+  }
+  if (rules_.ScoreCanBeTaken()) cmdGiveUp.Text = "&Take score";
+}
+
 void frmBrenlock::ShowCards(bool visible) {
   Board.ShowPlaces(visible);
   Board.ShowPiles(visible);
@@ -152,8 +150,7 @@ void frmBrenlock::ShowGraphics(bool visible) {
   Board.ShowLines(visible);
   Board.ColumnTotal.Show(visible);
   Board.cmdPass.Visible = visible;
-  RoundFrame.Show(visible);
-  lblRound.Visible = visible;
+  ShowRound(visible);
 }
 
 void frmBrenlock::ShowHitButtons(bool visible) {
@@ -162,31 +159,14 @@ void frmBrenlock::ShowHitButtons(bool visible) {
 }
 
 void frmBrenlock::ShowScoringLabel(bool visible) {
-  Message.Visible = visible;
-  ScoringLabelInfo.Visible = visible;
-  ScoringLabelRoundTotal.Visible = visible;
+  Show(visible, {&Message, &ScoringLabelInfo, &ScoringLabelRoundTotal});
 }
 
-void frmBrenlock::ShowControls(bool visible, bool keep) {
-  lblHighScore.Visible = visible;
-  if (keep) return;
+/// What stands beside the cards while a game runs.
+void frmBrenlock::ShowBoard(bool visible) {
   ShowTimerGroup(visible);
   TimeBonusFrame.Show(visible);
-  lblTimeBonus.Visible = visible;
-  Table.frmScore.Visible = visible;
-}
-
-/// All that a round is played with.
-void frmBrenlock::ShowBoard() {
-  Board.ShowEmptyPlaces();
-  Board.cmdPass.Enabled = shared.PassesLeft > 0;
-  Board.cmdPass.Visible = true;
-  ShowHitButtons(true);
-  RoundFrame.Show(true);
-  lblRound.Visible = true;
-  CardTotal.Show(true);
-  ShowControls(true, false);
-  EnablePause(true);
+  Show(visible, {&lblTimeBonus, &lblHighScore, &frmScore});
 }
 
 void frmBrenlock::EnableControls() {
@@ -194,26 +174,6 @@ void frmBrenlock::EnableControls() {
   Board.ColumnTotal.Show(true);
   CardTotal.Number.Visible = true;
   ShowScoringLabel(false);
-  ScoringLabelOutline.Visible = false;
-}
-
-void frmBrenlock::EnablePause(bool enabled) {
-  cmdPause.Enabled = enabled;
-  Menus.Enable(enabled, {core::Command::Pause});
-}
-
-void frmBrenlock::WriteTimeBonus() {
-  lblTimeBonus.Text = Digits(rules_.CurrentTimeBonus);
-}
-
-void frmBrenlock::Announce(const std::string& text, ui::Color color) {
-  CenterScoringLabel();
-  ShowMessage(text, color);
-  ScoringLabelOutline.Visible = true;
-}
-
-void frmBrenlock::HideAnnouncement() {
-  Message.Visible = false;
   ScoringLabelOutline.Visible = false;
 }
 

@@ -3,34 +3,27 @@
 
 #include <functional>
 
-#include "core/scoring/scoring_table.h"
-#include "core/session/game_window.h"
 #include "games/brenlock/rules.h"
-#include "games/brenlock/score_table.h"
-#include "games/brenlock/settings.h"
-#include "games/columns/column_board.h"
+#include "games/columns/column_window.h"
 
 namespace games::brenlock {
 
-class frmBrenlock : public core::GameWindow {
+class frmBrenlock : public columns::ColumnWindow {
  public:
   frmBrenlock(core::Suite& suite, const core::GameEntry& entry);
 
   // What the frame asks of a game.
-  void Play() override;
   void TakeScore() override;
   void ShowCards(bool visible) override;
-  void ShowControls(bool visible, bool keep) override;
   std::vector<core::SettingsKey> Settings() override;
   void SetDefaults() override;
   std::vector<core::ScoringValue> ScoringValues() const override;
   core::RulesText Rules() const override;
-  void ShowScoringDialog() override;
   void PlaceBoard(ui::Size inner) override;
 
  private:
   // Where it differs from the frame.
-  void Loaded() override;
+  void Loaded() override { rules_.SetTimeBonusDecay(shared.TimeLimit); }
   void PauseBoard() override;
   void ResumeBoard() override;
   void ShowSecondsLeft() override;
@@ -40,19 +33,17 @@ class frmBrenlock : public core::GameWindow {
   void DeckChosen() override { Board.PlayCardPicture.Show("FULL"); }
 
   // Playing a game.
-  void StartGame();
-  void AskToEndGame();
+  void StartGame() override;
+  void AskToEndGame() override;
+  void SetUpRound();
   void Reset();
-  void DealFirstCard();
-  void StartRoundClock();
   void EndRound();
   void NewRound();
   void GameOver();
-  void EnterScore();
 
   // The moves.
-  void cmdHit_Click(int column);
-  void cmdPass_Click();
+  void Hit(int column) override;
+  void Pass() override;
   void cmdGiveUp_Click();
   void ShowHit(int column, const HitResult& hit, const std::string& card);
   void ShowSum(Outcome outcome);
@@ -65,51 +56,42 @@ class frmBrenlock : public core::GameWindow {
   void LoseRound();
   void ShowRoundScore();
   void CountRoundScore();
-
   /// Runs a step; what goes wrong in it stops no other step, and is told by EndOnFault.
   void Step(const std::function<void()>& step);
   void EndOnFault();
 
   // What the board shows.
-  void ShowGraphics(bool visible);
+  void ShowGraphics(bool visible) override;
   void ShowHitButtons(bool visible);
   void ShowScoringLabel(bool visible);
-  void ShowBoard();
+  void ShowBoard(bool visible);
   void EnableControls();
-  void EnablePause(bool enabled);
-  void WriteTimeBonus();
-  void Announce(const std::string& text, ui::Color color);
-  void HideAnnouncement();
-  void CenterScoringLabel();
   void PlaceRoundTotal();
+  void MakeTable();
 
   // Settings and scoring.
-  core::SettingsKey WaitPeriodKey();
   core::SettingsKey CardsToPassKey();
   void SetCardsToPass(double number);
-  core::ScoringTable ScoringTableOfDialog();
+  core::ScoringTable ScoringTableOfDialog() override;
   core::NumberField TimeBonusMaxField();
   core::NumberField TimeBonusMinField();
-  void ApplyScoring(core::ScoringDialog& dialog);
 
   Values values_;
   brenlock::Rules rules_;
   bool GameAbandoned = false;
   std::string fault_;
 
-  columns::ColumnBoard Board{this,
-                             {ColumnCount, ColumnCount, 104, true},
-                             &frmBrenlock::cmdHit_Click,
-                             &frmBrenlock::cmdPass_Click};
   ui::Button cmdGiveUp{this, "cmdGiveUp", "&Give Up", "", &frmBrenlock::cmdGiveUp_Click};
-  ScoreTable Table{this};
+  ui::Frame frmScore{this, "frmScore", "Card Total Value"};
+  struct TableRow {
+    std::unique_ptr<ui::Label> total;
+    std::unique_ptr<ui::Label> value;
+  };
+  std::vector<TableRow> table_;  ///< first what is worth nothing, then each sum that scores
   core::CounterBox CardTotal{this, "CardTotal", "lblCurrentRoundScore", "Card Total",
                              "lblCurrentTotal"};
   core::SunkenFrame TimeBonusFrame{this, "TimeBonus"};
   ui::Label lblTimeBonus{this, "lblTimeBonus"};
-  core::SunkenFrame RoundFrame{this, "Round"};
-  ui::Label lblRound{this, "lblRound", "Round: 1"};
-  ui::Shape ScoringLabelOutline{this, "ScoringLabelOutline", ui::Shape::Look::Board};
   ui::Label ScoringLabelRoundTotal{this, "ScoringLabelRoundTotal"};
   ui::Label ScoringLabelInfo{this, "ScoringLabelInfo"};
 };

@@ -1,15 +1,11 @@
 // The end of a Kestrane round: its bonuses, the cards left over, and what comes next.
+#include "core/session/bonus_counter.h"
 #include "core/text/number.h"
 #include "games/kestrane/window.h"
 
 namespace games::kestrane {
 namespace {
 
-constexpr int DeckPause = 2000;
-constexpr int LeftOversPause = 1000;
-constexpr int LeftOverPause = 500;
-constexpr int NextRoundPause = 2000;
-constexpr int GameOverPause = 1000;
 constexpr int BonusRound = 3;
 constexpr int SpeedTitleOffset = 7;  // 100 twips
 
@@ -17,25 +13,19 @@ constexpr int SpeedTitleOffset = 7;  // 100 twips
 
 void frmKestrane::TakeScore() {
   const int round = deals_;
-  ServePending();
+  ServeEvents();
   // What was just served may have closed this round, or given up the game.
   if (round != deals_ || !shared.GameActive) return;
   if (Paused()) PauseGame();
   shared.ScoringBusy = true;
   EndRound();
-  ServePending();
+  ServeAndDrop();
   shared.ScoringBusy = false;
-}
-
-/// What the player did while a round was being scored has no effect.
-void frmKestrane::ServePending() {
-  shared.ScoringBusy ? ServeAndDrop() : ServeEvents();
 }
 
 void frmKestrane::EndRound() {
   Hourglass = true;
-  ClearPointers();
-  UpCard(Rules::Front).Pointer = "";
+  ClearPointers(true);
   StopClock();
   StopMusic();
   ShowControls(false, true);
@@ -50,40 +40,34 @@ void frmKestrane::EndRound() {
 
 void frmKestrane::PayDeckCompletion() {
   ShowDeck(false);
-  ShowBigMessage("Deck Completion Bonus!", ui::Blue);
+  ShowMessage("Deck Completion Bonus!", ui::Blue);
   lblMessage.Text = core::Masked(values_.DeckCompletion) + "!";
   lblMessage.Visible = true;
   AddPoints(values_.DeckCompletion);
   Wave("Applause.wav");
-  Wait(DeckPause);
+  Wait(2000);
   lblMessage.Visible = false;
-  HideBigMessage();
+  HideMessage();
 }
 
 void frmKestrane::RemoveLeftOvers() {
   if (rules_.NextLeftOver() == Spot{}) return;
-  ShowBigMessage("Removing left over cards", ui::Blue);
+  ShowMessage("Removing left over cards", ui::Blue);
   lblMessage.Text = lblFlush.Text = "-" + core::Digits(values_.LeftOverCards);
   lblMessage.Visible = true;
-  Wait(LeftOversPause);
+  Wait(1000);
   for (Spot spot = rules_.NextLeftOver(); spot != Spot{}; spot = rules_.NextLeftOver()) {
-    RemoveLeftOver(spot);
+    MarkOf(spot).Visible = true;
+    AddPoints(-std::int64_t{values_.LeftOverCards});
+    Wave("Click.wav");
+    ShowFlushMessage(spot);
+    Wait(500);
+    MarkOf(spot).Visible = false;
+    rules_.TakeOff(spot);
+    ShowCard(spot);
   }
   lblFlush.Text = "Flush!";
-  lblFlush.Visible = false;
-  lblMessage.Visible = false;
-}
-
-void frmKestrane::RemoveLeftOver(Spot spot) {
-  MarkOf(spot).Visible = true;
-  AddPoints(-std::int64_t{values_.LeftOverCards});
-  ShowFlushOver(PictureOf(spot));
-  Wave("Click.wav");
-  suite.platform.Repaint(*this);
-  Wait(LeftOverPause);
-  MarkOf(spot).Visible = false;
-  rules_.TakeOff(spot);
-  ShowCard(spot);
+  lblFlush.Visible = lblMessage.Visible = false;
 }
 
 void frmKestrane::PaySeconds() {
@@ -91,37 +75,32 @@ void frmKestrane::PaySeconds() {
   if (shared.SecondsLeft() > 0) {
     core::BonusStyle style;
     style.placeSpeedBonus = [this] {
-      CenterScoringLabel();
       lblMessage.MoveTo(Message.Place().x - SpeedTitleOffset, lblMessage.Place().y);
     };
     core::BonusCounter counter(*this, suite, Clock, {lblMessage, Message, Score.Number}, style);
     counter.AwardSpeedBonus(shared.TimeBonusPerSecond);
+    lblMessage.Visible = ScoringLabelOutline.Visible = false;
   }
-  lblMessage.Visible = false;
-  ScoringLabelOutline.Visible = false;
 }
 
 void frmKestrane::NextRound() {
-  rules_.NextRound();
-  const int round = shared.RoundNumber = rules_.RoundNumber();
-  ShowBigMessage(
-      round == BonusRound ? "Prepare For Bonus Round" : "Prepare For Round " + core::Digits(round),
+  shared.RoundNumber = ++rules_.RoundNumber;
+  const bool bonus = rules_.RoundNumber == BonusRound;
+  ShowMessage(
+      bonus ? "Prepare For Bonus Round" : "Prepare For Round " + core::Digits(rules_.RoundNumber),
       ui::Red);
-  Wait(NextRoundPause);
+  Wait(2000);
   InitRound();
-  HideBigMessage();
+  HideMessage();
   Hourglass = false;
-  MakeDeck() ? StartRound() : GameOver();
+  if (!Deal()) GameOver();
 }
 
 void frmKestrane::GameOver() {
   Hourglass = false;
   FinishGame();
   ShowTableTop();
-  ShowBigMessage("Game Over", ui::Blue);
-  Wait(GameOverPause);
-  ShowTitle(true);
-  Message.Visible = false;
+  ShowGameOver(1000, ui::Blue);
   ScoringLabelOutline.Visible = false;
 }
 

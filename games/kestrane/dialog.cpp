@@ -36,57 +36,49 @@ std::vector<core::SettingsKey> frmKestrane::Settings() {
 
 std::vector<core::ScoringValue> frmKestrane::ScoringValues() const {
   return {{shared.TimeLimit, StandardTimeLimit},
-          {values_.RunsScore, Standard.RunsScore},
-          {values_.FlushScore, Standard.FlushScore},
-          {values_.BonusScore, Standard.BonusScore},
-          {values_.TripsScore, Standard.TripsScore},
           {shared.TimeBonusPerSecond, StandardTimeBonus},
-          {values_.DeckCompletion, Standard.DeckCompletion},
-          {values_.LeftOverCards, Standard.LeftOverCards}};
+          {values_ == Standard, true}};
 }
 
 // --- the dialog ---------------------------------------------------------------------------------
 
 void frmKestrane::ShowScoringDialog() {
-  core::ScoringTable table;
-  table.window = "frmKestraneCustom";
-  table.frame = "frmScoringOptions";
-  table.items = DialogItems();
-  table.defaults = [this](core::ScoringDialog&) { ChooseTimeLimit(StandardTimeLimit); };
-  core::ScoringDialog dialog(suite, table);
+  core::ScoringDialog dialog(
+      suite, {.window = "frmKestraneCustom",
+              .frame = "frmScoringOptions",
+              .items = DialogItems(),
+              .defaults = [this](core::ScoringDialog&) { ChooseTimeLimit(StandardTimeLimit); }});
   suite.ShowModal(dialog);
 }
 
 std::vector<core::DialogItem> frmKestrane::DialogItems() {
-  return {
-      core::Field("txtTripValue", "Three of a kind bonus:", values_.TripsScore,
-                  {Below(0, "Sorry, the minimum value for a Triple is 0."),
-                   Above(20000, "Sorry, the maximum value for a Triple is 20000")},
-                  Standard.TripsScore),
-      core::Field("txtRunValue", "Run Bonus:", values_.RunsScore,
-                  {Below(0, "Sorry, the minimum value for a Run is 0."),
-                   Above(20000, "Sorry, the maximum value for a Run is 20000")},
-                  Standard.RunsScore),
-      core::Field("txtDeckValue", "Deck Completion Bonus:", values_.DeckCompletion,
-                  {Below(0, "Sorry, the minimum value for for completing the Deck is 0."),
-                   Above(100000, "Sorry, the maximum value for completing the Deck is 100000")},
-                  Standard.DeckCompletion),
-      core::Field("txtFlushValue", "Flush Bonus:", values_.FlushScore,
-                  {Below(0, "Sorry, the minimum value for the Flush Bonus is 0."),
-                   Above(20000, "Sorry, the maximum value for the Flush Bonus is 20000")},
-                  Standard.FlushScore),
-      core::Field(
-          "txtBonusRound", "Score Required for Bonus Round:", values_.BonusScore,
-          {Below(0, "Sorry, the minimum value for obtaining the Bonus Round is 0."),
-           Above(1000000, "Sorry, the maximum value for obtaining the Bonus Round is 1000000")},
-          Standard.BonusScore),
-      PenaltyField(),
-      TimeBonusField(),
-      core::CheckField{"chkCountDown", "&Count Down when taking score",
-                       [this] { return shared.CountDownScoring; }},
-      core::NoteField{"lblInfo",
-                      "Note: Changing any of the Scoring Options will cause your high scores to be "
-                      "marked with an * indicating custom scoring was in use."}};
+  auto deck = Amount("txtDeckValue", "Deck Completion Bonus:", &Values::DeckCompletion, 100000,
+                     "completing the Deck");
+  deck.tests[0].message = "Sorry, the minimum value for for completing the Deck is 0.";
+  return {Amount("txtTripValue", "Three of a kind bonus:", &Values::TripsScore, 20000, "a Triple"),
+          Amount("txtRunValue", "Run Bonus:", &Values::RunsScore, 20000, "a Run"),
+          deck,
+          Amount("txtFlushValue", "Flush Bonus:", &Values::FlushScore, 20000, "the Flush Bonus"),
+          Amount("txtBonusRound", "Score Required for Bonus Round:", &Values::BonusScore, 1000000,
+                 "obtaining the Bonus Round"),
+          PenaltyField(),
+          TimeBonusField(),
+          core::CheckField{"chkCountDown", "&Count Down when taking score",
+                           [this] { return shared.CountDownScoring; }},
+          core::NoteField{"lblInfo",
+                          "Note: Changing any of the Scoring Options will cause your high scores "
+                          "to be marked with an * indicating custom scoring was in use."}};
+}
+
+/// A field from 0 to `highest`; `what` stands in the messages.
+core::NumberField frmKestrane::Amount(const std::string& name, const std::string& label,
+                                      std::int32_t Values::*value, std::int32_t highest,
+                                      const std::string& what) {
+  return core::Field(
+      name, label, values_.*value,
+      {Below(0, "Sorry, the minimum value for " + what + " is 0."),
+       Above(highest, "Sorry, the maximum value for " + what + " is " + core::Digits(highest))},
+      Standard.*value);
 }
 
 /// The penalty is shown as a negative number and kept as a positive one.

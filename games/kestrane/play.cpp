@@ -5,13 +5,7 @@
 namespace games::kestrane {
 namespace {
 
-constexpr int FlushPause = 250;
-constexpr int StuckPause = 2000;
-
-const char* SoundOf(Answer answer) {
-  if (answer == Answer::Refused) return "Chord.wav";
-  return answer == Answer::Cancel ? "Markq.wav" : "Click.wav";
-}
+constexpr const char* Sounds[] = {"Chord.wav", "Click.wav", "Markq.wav", "Click.wav"};  // by Answer
 
 }  // namespace
 
@@ -22,28 +16,25 @@ void frmKestrane::Play() {
 void frmKestrane::StartGame() {
   shared.ScoringBusy = false;
   InitRound();
-  if (!MakeDeck()) {
+  BeginGame();
+  rules_.RoundNumber = 1;
+  if (!Deal()) {
     suite.Tell(ui::Sign::Critical, "Unable to start a game of " + shared.GameTitle);
+    ShowTitle(true);
     return;
   }
-  BeginGame();
-  rules_.StartGame();
+  shared.GameActive = true;
   ShowRunningCommands();
   lblTimeBonus.Text = core::Digits(shared.TimeLimit);
   ShowTableTop();
-  shared.GameActive = true;
-  StartRound();
 }
 
 void frmKestrane::GiveUp() {
   const bool paused = PauseForDialog();
-  if (!Ask("You have a game in progress, are you sure you want to quit?")) {
-    ResumeAfterDialog(paused);
-    return;
-  }
-  if (!shared.GameActive) return;
-  shared.GameActive = false;
+  const bool yes = Ask("You have a game in progress, are you sure you want to quit?");
+  if (yes) shared.GameActive = false;
   ResumeAfterDialog(paused);
+  if (!yes) return;
   StopClock();
   ShowIdleCommands();
   ShowCards(false);
@@ -53,7 +44,8 @@ void frmKestrane::GiveUp() {
 }
 
 void frmKestrane::InitRound() {
-  ServePending();
+  // What the player did while a round was being scored has no effect.
+  shared.ScoringBusy ? ServeAndDrop() : ServeEvents();
   shared.ScoringBusy = false;
   rules_.InitRound();
   shared.ElapsedSeconds = 0;
@@ -62,103 +54,65 @@ void frmKestrane::InitRound() {
   Runs.Caption.Text = "Runs (" + core::Digits(values_.RunsScore) + "):";
 }
 
-void frmKestrane::StartRound() {
-  Deal();
-  lblRound.Text = "Round: " + core::Digits(rules_.RoundNumber());
-  ShowControls(true, true);
-  ShowCards(true);
-  StartClock();
-  StartMusic();
-  // A window that was minimized while the round before was scored goes on standing still.
-  if (State() == ui::WindowState::Minimized) {
-    StopClock();
-    StopMusic();
-  }
-}
-
-void frmKestrane::Deal() {
+/// Deals a round of a new deck and lets its clock run. False if there is no deck.
+bool frmKestrane::Deal() {
+  if (!suite.CreateDeck() || !suite.ShuffleDeck()) return false;
   rules_.Deal();
   ++deals_;
   ShowField();
   UpDateDeck();
   ShowGoal(values_.BonusScore, " for Bonus Round!   ");
   StatusBar1(2).Text = "Create runs and triples by moving available cards!   ";
+  lblRound.Text = "Round: " + core::Digits(rules_.RoundNumber);
+  ShowControls(true, true);
+  ShowCards(true);
+  StartClock();
+  StartMusic();
+  return true;
 }
 
 // --- the moves ----------------------------------------------------------------------------------
 
-void frmKestrane::UpCard_Click(int i) {
-  if (!shared.ScoringBusy) ClickOn({Area::UpCards, i});
-}
-
-void frmKestrane::TempCard_Click(int i) {
-  if (shared.ScoringBusy) return;
-  ClickOn({Area::Storage, i});
-  EndIfStuck();
-}
-
-void frmKestrane::PlayCard_Click(int i) {
-  if (shared.ScoringBusy) return;
-  const bool hadSelection = rules_.CardSelected();
-  ClickOn({Area::Field, i});
-  if (!hadSelection) return;
-  for (int column = 0; column < Rules::Columns; ++column) CheckColumn(column);
-  EndIfStuck();
-}
-
 void frmKestrane::ClickOn(Spot spot) {
-  const bool fromDeck = rules_.Selected().area == Area::UpCards;
+  if (shared.ScoringBusy) return;
+  const bool fromDeck = rules_.SelectedArea == Area::UpCards;
   const Answer answer = rules_.Click(spot);
   if (answer == Answer::Move) {
     ShowField();
     if (fromDeck) UpDateDeck();
   }
-  Wave(SoundOf(answer));
+  Wave(Sounds[static_cast<int>(answer)]);
   ShowSelection(true);
-  ClearPointers();
+  ClearPointers(rules_.DeckUsedUp());
+  if (spot.area == Area::Field) {
+    for (int column = 0; column < Columns; ++column) CheckColumn(column);
+  }
+  if (rules_.NoMoveLeft()) NoMovesLeft();
 }
 
 void frmKestrane::CheckColumn(int column) {
   const Made made = rules_.CheckColumn(column);
   if (made == Made::Nothing) return;
   ShowField();
-  if (made == Made::Trip) {
-    WriteCounts();
-    AddPoints(values_.TripsScore);
-    Wave("TwentyOne.wav");
-    return;
+  if (made == Made::Flush) {
+    ShowFlushMessage({Area::Field, column});
+    Wait(250);
+    AddPoints(values_.FlushScore);
+    lblFlush.Visible = false;
   }
-  made == Made::Flush ? ShowFlushMessage(column) : Wave("TwentyOne.wav");
   WriteCounts();
-  AddPoints(values_.RunsScore);
-}
-
-void frmKestrane::ShowFlushMessage(int column) {
-  ShowFlushOver(PlayCard(column));
-  suite.platform.Repaint(*this);
-  Wait(FlushPause);
-  Wave("HighScore.wav");
-  AddPoints(values_.FlushScore);
-  lblFlush.Visible = false;
-}
-
-void frmKestrane::EndIfStuck() {
-  if (rules_.NoMoveLeft()) NoMovesLeft();
+  AddPoints(made == Made::Trip ? values_.TripsScore : values_.RunsScore);
+  Wave(made == Made::Flush ? "HighScore.wav" : "TwentyOne.wav");
 }
 
 void frmKestrane::NoMovesLeft() {
   ShowDeck(false);
   ShowControls(false, true);
-  ShowBigMessage("No more legal moves left!", ui::Blue);
+  ShowMessage("No more legal moves left!", ui::Blue);
   Wave("Slide.wav");
   suite.platform.Repaint(*this);
-  Wait(StuckPause);
+  Wait(2000);
   cmdTakeScore_Click();
-}
-
-void frmKestrane::AddPoints(std::int64_t points) {
-  shared.AddToScore(points);
-  WriteScore();
 }
 
 }  // namespace games::kestrane

@@ -11,132 +11,104 @@ namespace {
 
 constexpr int LastRound = 3;
 constexpr int DeckSize = 52;
-
 // The stack's pictures, each up to this count of cards dealt.
 constexpr int LastFull = 19;
 constexpr int LastHalf = 35;
 constexpr int LastBack = 51;
 
-template <class Cards>
-auto* Within(Cards& cards, int index) {
-  const bool exists = index >= 0 && index < static_cast<int>(cards.size());
-  return exists ? cards.data() + index : nullptr;
+bool Exists(Spot spot) {
+  return std::ranges::find(AllSpots, spot) != AllSpots.end();
 }
 
-template <class Cards>
-bool AllTaken(const Cards& cards) {
-  return std::none_of(cards.begin(), cards.end(), [](const auto& key) { return key.empty(); });
+// Only the order in which the cards lie counts, and the ace joins the king at one end alone.
+bool IsRun(int a, int b, int d) {
+  const bool ascending = b == a + 1 && d == a + 2;
+  const bool descending = b == a - 1 && d == a - 2;
+  const bool toAce = a == core::queen && b == core::king && d == core::ace;
+  const bool fromAce = a == core::ace && b == core::king && d == core::queen;
+  return ascending || descending || toAce || fromAce;
 }
 
 }  // namespace
 
+// --- rounds -------------------------------------------------------------------------------------
+
+void Rules::InitRound() {
+  ColumnCards.fill("");
+  UpCards.fill("");
+  TempCards.fill("");
+  EndSelection();
+  TripCount = RunCount = 0;
+}
+
+void Rules::Deal() {
+  InitRound();
+  UpCards = {deck_(1), deck_(2), deck_(3)};
+  DeckIndex = UpCardCount;
+}
+
+void Rules::UpDateDeck() {
+  if (DeckIndex < LastDeckIndex) ++DeckIndex;
+  UpCards = {DeckIndex <= DeckSize ? deck_(DeckIndex) : "", UpCards[0], UpCards[1]};
+}
+
+bool Rules::EarnsNextRound(std::int64_t score, std::int64_t bonusScore) const {
+  return RoundNumber == 1 || (RoundNumber < LastRound && score >= bonusScore);
+}
+
 // --- the board ----------------------------------------------------------------------------------
 
-template <class Self>
-auto* Rules::CardAt(Self& self, Spot spot) {
-  switch (spot.area) {
-    case Area::UpCards:
-      return Within(self.upCards_, spot.index);
-    case Area::Storage:
-      return Within(self.tempCards_, spot.index);
-    case Area::Field:
-      return Within(self.columnCards_, spot.index);
-    default:
-      return Within(self.upCards_, -1);
-  }
+std::string& Rules::CardAt(Spot spot) {
+  const auto index = static_cast<std::size_t>(spot.index);
+  if (spot.area == Area::UpCards) return UpCards.at(index);
+  return spot.area == Area::Storage ? TempCards.at(index) : ColumnCards.at(index);
 }
 
 const std::string& Rules::KeyAt(Spot spot) const {
   static const std::string none;
-  const std::string* card = CardAt(*this, spot);
-  return card ? *card : none;
+  return Exists(spot) ? const_cast<Rules*>(this)->CardAt(spot) : none;
 }
 
 int Rules::TopSlot(int column) const {
   int slot = LastRow + column;
   while (slot >= 0 && !HasCard({Area::Field, slot})) slot -= Columns;
-  return slot >= 0 ? slot : -1;
+  return slot;
 }
 
 bool Rules::NoMoveLeft() const {
-  return AllTaken(tempCards_) && AllTaken(columnCards_);
+  const auto taken = [](const std::string& key) { return !key.empty(); };
+  return std::ranges::all_of(TempCards, taken) && std::ranges::all_of(ColumnCards, taken);
 }
 
 std::string_view Rules::StackPicture() const {
-  if (deckIndex_ <= LastFull) return "FULL";
-  if (deckIndex_ <= LastHalf) return "HALF";
-  return deckIndex_ <= LastBack ? "BACK" : "EMPTY";
+  if (DeckIndex <= LastFull) return "FULL";
+  if (DeckIndex <= LastHalf) return "HALF";
+  return DeckIndex <= LastBack ? "BACK" : "EMPTY";
 }
 
 Spot Rules::NextLeftOver() const {
-  for (int slot = Slots - 1; slot >= 0; --slot) {
-    if (HasCard({Area::Field, slot})) return {Area::Field, slot};
-  }
-  for (int spot = Spots - 1; spot >= 0; --spot) {
-    if (HasCard({Area::Storage, spot})) return {Area::Storage, spot};
-  }
-  return {};
+  const auto last =
+      std::find_if(AllSpots.rbegin(), AllSpots.rend(), [this](Spot spot) { return HasCard(spot); });
+  return last == AllSpots.rend() ? Spot{} : *last;
 }
 
 void Rules::TakeOff(Spot spot) {
-  if (std::string* card = CardAt(*this, spot)) card->clear();
+  if (!Exists(spot)) return;
   if (spot == Selected()) EndSelection();
-}
-
-// --- rounds -------------------------------------------------------------------------------------
-
-bool Rules::EarnsNextRound(std::int64_t score, std::int64_t bonusScore) const {
-  if (roundNumber_ >= LastRound) return false;
-  return roundNumber_ == 1 || score >= bonusScore;
-}
-
-void Rules::InitRound() {
-  ClearBoard();
-  tripCount_ = 0;
-  runCount_ = 0;
-}
-
-void Rules::ClearBoard() {
-  columnCards_.fill("");
-  upCards_.fill("");
-  tempCards_.fill("");
-  EndSelection();
-}
-
-void Rules::Deal() {
-  ClearBoard();
-  for (int i = 0; i < UpCardCount; ++i) *CardAt(*this, {Area::UpCards, i}) = deck_(i + 1);
-  deckIndex_ = UpCardCount;
-}
-
-void Rules::UpDateDeck() {
-  if (deckIndex_ < LastDeckIndex) ++deckIndex_;
-  upCards_[2] = std::exchange(upCards_[1], std::exchange(upCards_[0], ""));
-  if (deckIndex_ <= DeckSize) upCards_[0] = deck_(deckIndex_);
+  CardAt(spot).clear();
 }
 
 // --- selecting and moving -----------------------------------------------------------------------
 
 Answer Rules::AnswerTo(Spot spot) const {
-  if (!CardAt(*this, spot)) return Answer::Refused;
-  if (spot.area == Area::UpCards && spot.index != Front) return Answer::Refused;
-  if (!cardSelected_) {
-    const int first = spot.area == Area::Field ? spot.index % Columns : spot.index;
-    return HasCard({spot.area, first}) ? Answer::Select : Answer::Refused;
-  }
-  if (IsSelected(spot)) return Answer::Cancel;
-  return HasRoom(spot) ? Answer::Move : Answer::Refused;
-}
-
-bool Rules::IsSelected(Spot spot) const {
-  if (spot.area != selectedArea_) return false;
-  return spot.area == Area::Field ? spot.index % Columns == selectedIndex_ % Columns
-                                  : spot.index == selectedIndex_;
-}
-
-bool Rules::HasRoom(Spot spot) const {
-  if (spot.area == Area::Field) return !ColumnFull(spot.index % Columns);
-  return spot.area == Area::Storage && !HasCard(spot);
+  if (!Exists(spot) || (spot.area == Area::UpCards && spot.index != Front)) return Answer::Refused;
+  const bool inField = spot.area == Area::Field;
+  if (inField) spot.index %= Columns;
+  if (!CardSelected) return HasCard(spot) ? Answer::Select : Answer::Refused;
+  const int selected = inField ? SelectedIndex % Columns : SelectedIndex;
+  if (spot == Spot{SelectedArea, selected}) return Answer::Cancel;
+  const bool full = inField ? ColumnFull(spot.index) : HasCard(spot);
+  return full || spot.area == Area::UpCards ? Answer::Refused : Answer::Move;
 }
 
 Answer Rules::Click(Spot spot) {
@@ -149,72 +121,39 @@ Answer Rules::Click(Spot spot) {
 
 void Rules::Select(Spot spot) {
   if (spot.area == Area::Field) spot.index = TopSlot(spot.index % Columns);
-  cardSelected_ = true;
-  selectedArea_ = spot.area;
-  selectedIndex_ = static_cast<std::int16_t>(spot.index);
+  CardSelected = true;
+  SelectedArea = spot.area;
+  SelectedIndex = static_cast<std::int16_t>(spot.index);
 }
 
 void Rules::EndSelection() {
-  cardSelected_ = false;
-  selectedArea_ = Area::None;
-  selectedIndex_ = -1;
+  CardSelected = false;
+  SelectedArea = Area::None;
+  SelectedIndex = -1;
 }
 
 void Rules::MoveCard(Spot& spot) {
-  if (spot.area == Area::Field) {
-    const int column = spot.index % Columns;
-    const int top = TopSlot(column);
-    spot.index = top < 0 ? column : top + Columns;
-  }
-  *CardAt(*this, spot) = std::exchange(*CardAt(*this, Selected()), "");
-  if (selectedArea_ == Area::UpCards) UpDateDeck();
+  if (spot.area == Area::Field) spot.index = TopSlot(spot.index % Columns) + Columns;
+  CardAt(spot) = std::exchange(CardAt(Selected()), "");
+  if (SelectedArea == Area::UpCards) UpDateDeck();
   EndSelection();
 }
 
-// --- full columns -------------------------------------------------------------------------------
-
 Made Rules::CheckColumn(int column) {
   if (column < 0 || column >= Columns || !ColumnFull(column)) return Made::Nothing;
-  if (IsTrip(column)) {
-    ClearColumn(column);
-    ++tripCount_;
-    return Made::Trip;
-  }
-  if (!IsRun(column)) return Made::Nothing;
-  const bool flush = CheckFlush(column);
+  const auto rank = [&](int row) { return core::RankOf(KeyAt({Area::Field, row + column})); };
+  const int a = rank(0), b = rank(Columns), d = rank(LastRow);
+  const bool trip = a == b && b == d;
+  if (!trip && !IsRun(a, b, d)) return Made::Nothing;
+  const Made run = CheckFlush(column) ? Made::Flush : Made::Run;
   ClearColumn(column);
-  ++runCount_;
-  return flush ? Made::Flush : Made::Run;
-}
-
-std::array<int, 3> Rules::RanksOf(int column) const {
-  std::array<int, 3> ranks;
-  for (int row = 0; row < 3; ++row) {
-    ranks[static_cast<std::size_t>(row)] =
-        core::RankOf(KeyAt({Area::Field, row * Columns + column}));
-  }
-  return ranks;
-}
-
-bool Rules::IsTrip(int column) const {
-  const auto [a, b, d] = RanksOf(column);
-  return a == b && b == d;
-}
-
-// Only the order in which the cards lie counts, and the ace joins the king at one end alone.
-bool Rules::IsRun(int column) const {
-  const auto [a, b, d] = RanksOf(column);
-  const bool ascending = b == a + 1 && d == a + 2;
-  const bool descending = b == a - 1 && d == a - 2;
-  const bool toAce = a == core::queen && b == core::king && d == core::ace;
-  const bool fromAce = a == core::ace && b == core::king && d == core::queen;
-  return ascending || descending || toAce || fromAce;
+  ++(trip ? TripCount : RunCount);
+  return trip ? Made::Trip : run;
 }
 
 bool Rules::CheckFlush(int column) const {
-  const char suit = core::SuitOf(KeyAt({Area::Field, column}));
-  return suit == core::SuitOf(KeyAt({Area::Field, column + Columns})) &&
-         suit == core::SuitOf(KeyAt({Area::Field, column + LastRow}));
+  const auto suit = [&](int row) { return core::SuitOf(KeyAt({Area::Field, row + column})); };
+  return suit(0) == suit(Columns) && suit(0) == suit(LastRow);
 }
 
 void Rules::ClearColumn(int column) {

@@ -15,6 +15,8 @@ struct Values {
   std::int32_t FlushScore = 5000;       ///< what a run of one suit earns on top
   std::int32_t DeckCompletion = 15000;  ///< points for playing all 52 cards
   std::int32_t LeftOverCards = 250;     ///< points off per card left when the deck is used up
+
+  bool operator==(const Values&) const = default;
 };
 
 inline constexpr Values Standard;

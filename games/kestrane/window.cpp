@@ -1,4 +1,4 @@
-// Kestrane's window: its menu, its board, and what it shows.
+// Kestrane's window: its menu, where its board stands, and what it shows.
 #include "games/kestrane/window.h"
 
 #include "core/text/number.h"
@@ -8,12 +8,14 @@ namespace {
 
 constexpr ui::Size Card{69, 94};
 constexpr ui::Size Mark{71, 97};
-constexpr ui::Size SmallestBoard{628, 410};
+constexpr int SmallestHeight = 410;  // of the inner area
 constexpr int ButtonsWidth = 84;
-constexpr int ColumnStep = 80;
 constexpr int RowStep = 26;
-constexpr int UpCardStep = 22;
-constexpr int BigMessageSize = 16;
+
+/// Where the first card of an area stands, and how far the next one is from it.
+struct Row {
+  int x, y, step;
+};
 
 core::Vocabulary Words() {
   core::Vocabulary words;
@@ -32,15 +34,7 @@ core::Vocabulary Words() {
                        {135, "1&35 seconds"},
                        {150, "1&50 seconds"},
                        {180, "1&80 seconds"}};
-  words.deckEntries = {{"mnuPalm", "&Palm Tree", core::Design::Palm, 1},
-                       {"mnuMagic", "&Magic Hands", core::Design::Magic, 2},
-                       {"mnuNight", "&Night Castle", core::Design::Night, 3},
-                       {"mnuHot", "&Hot Cards", core::Design::Hot, 4}};
   return words;
-}
-
-void PlaceMark(ui::Shape& mark, const ui::Picture& card) {
-  mark.Place = {card.Place().x - 1, card.Place().y - 1, Mark.w, Mark.h};
 }
 
 }  // namespace
@@ -49,94 +43,177 @@ frmKestrane::frmKestrane(core::Suite& suite, const core::GameEntry& entry)
     : GameWindow(suite, entry, Words()) {
   using core::Command;
   BuildMenu({
-      {"mnuFile",
-       "&File",
-       Command::Other,
-       {},
-       {{"mnuPlay", "&Play", Command::Play},
-        {"mnuPause", "Pau&se", Command::Pause},
-        {"mnuExit", "E&xit", Command::Exit}}},
-      {"mnuOptions",
-       "&Options",
-       Command::Other,
-       {},
-       {{"mnuView", "&View High Scores...", Command::ViewHighScores},
-        {"mnuClear", "&Clear High Scores...", Command::ClearHighScores},
-        {"mnuMusic", "Play &Music (plays during game)", Command::Music},
-        {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
-        {"mnuSounds", "&Play Sounds", Command::Sounds},
-        {"mnuCustom", "&User Options...", Command::Custom}}},
+      core::Heading("mnuFile", "&File",
+                    {{"mnuPlay", "&Play", Command::Play},
+                     {"mnuPause", "Pau&se", Command::Pause},
+                     {"mnuExit", "E&xit", Command::Exit}}),
+      core::Heading("mnuOptions", "&Options",
+                    {{"mnuView", "&View High Scores...", Command::ViewHighScores},
+                     {"mnuClear", "&Clear High Scores...", Command::ClearHighScores},
+                     {"mnuMusic", "Play &Music (plays during game)", Command::Music},
+                     {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
+                     {"mnuSounds", "&Play Sounds", Command::Sounds},
+                     {"mnuCustom", "&User Options...", Command::Custom}}),
       {"mnuTime", "&Time Limit", Command::Time, {}, TimeRows()},
-      {"mnuDeck", "Dec&k", Command::Other, {}, DeckRows()},
-      {"mnuHelp",
-       "&Help",
-       Command::Other,
-       {},
-       {{"mnuRules", "&Rules", Command::Rules},
-        {"mnuReadme", "&View Readme File", Command::Readme},
-        {"mnuAbout", "&About...", Command::About}}},
+      core::Heading("mnuDeck", "Dec&k", DeckRows()),
+      core::Heading("mnuHelp", "&Help",
+                    {{"mnuRules", "&Rules", Command::Rules},
+                     {"mnuReadme", "&View Readme File", Command::Readme},
+                     {"mnuAbout", "&About...", Command::About}}),
   });
-  PrepareControls();
-  ShowCards(false);
-  ShowControls(false, true);
-}
-
-void frmKestrane::PrepareControls() {
-  PlayCardSelection.ForEach([](int, ui::Shape& mark) { mark.LineColor = ui::Red; });
-  TempCardSelection.ForEach([](int, ui::Shape& mark) { mark.LineColor = ui::Blue; });
-  UpCardSelection.LineColor = ui::Red;
+  for (Spot spot : AllSpots) {
+    PictureOf(spot).OnMouseMove = [this, spot] { PointAt(spot); };
+    MarkOf(spot).LineColor = spot.area == Area::Storage ? ui::Blue : ui::Red;
+  }
   for (ui::Label* label : {&Message, &lblMessage, &lblFlush}) {
-    label->FontSize = BigMessageSize;
+    label->FontSize = 16;
     label->Bold = true;
     label->Visible = false;
   }
   lblMessage.TextColor = lblFlush.TextColor = ui::Red;
-  Score.Number.Text = "0";
-  ScoringLabelOutline.Visible = false;
   BringToFront(Message);
-  lblTimeBonus.Visible = false;
+  Message.OnChange = [this] { CenterScoringLabel(); };
+  ScoringLabelOutline.Visible = lblTimeBonus.Visible = cmdTakeScore.Enabled = false;
   lblHighScore.Wrap = true;
-  cmdTakeScore.Enabled = false;
+  ShowCards(false);
+  ShowControls(false, true);
 }
 
-// --- the board ----------------------------------------------------------------------------------
+// --- where it stands ----------------------------------------------------------------------------
 
 void frmKestrane::PlaceBoard(ui::Size inner) {
   const int middle = (inner.w - ButtonsWidth) / 2;
-  const int spare = inner.h - SmallestBoard.h;
-  PlaceCards(middle, 20 + spare / 4, 139 + spare / 2, 304 + spare * 3 / 4);
-  const int top = spare / 2;
+  const int spare = inner.h - SmallestHeight;
+  const int top = spare / 2, deckTop = 304 + spare * 3 / 4;
+  PlaceCards(middle, 20 + spare / 4, 139 + top, deckTop);
   Clock.SetPlace({middle - 264, top + 8});
   core::CenterIn(lblRound, {middle - 268, top + 116, 96, 20});
   Trips.SetPlace({middle - 268, top + 140, 96, 44});
   Runs.SetPlace({middle - 268, top + 190, 96, 44});
   Score.SetPlace({middle + 234, top + 190, 116, 44});
   core::CenterIn(lblHighScore, {middle + 174, top + 240, 178, 36});
-  core::CenterIn(lblCardCount, {middle - 270, top + 340, 146, 20});
-  const ui::Rect outline{inner.w / 2 - 170, 304 + spare * 3 / 4, 340, 98};
+  core::CenterIn(lblCardCount, {middle - 270, deckTop + 36, 146, 20});
+  const ui::Rect outline{inner.w / 2 - 170, deckTop, 340, 98};
   ScoringLabelOutline.Place = outline;
   core::CenterIn(lblMessage, {outline.x, outline.y + 4, outline.w, 28});
   core::CenterIn(Message, {outline.x, outline.y + 34, outline.w, 30});
 }
 
-void frmKestrane::PlaceCards(int middle, int storage, int field, int deck) {
-  PlayCard.ForEach([&](int i, ui::Picture& card) {
-    const int column = i % Rules::Columns, row = i / Rules::Columns;
-    card.Place = {middle - 154 + column * ColumnStep, field + row * RowStep, Card.w, Card.h};
+void frmKestrane::PlaceCards(int middle, int storageTop, int fieldTop, int deckTop) {
+  const Row rows[] = {
+      {middle - 22, deckTop, 22}, {middle - 114, storageTop, 80}, {middle - 154, fieldTop, 80}};
+  for (Spot spot : AllSpots) {
+    const Row& row = rows[static_cast<int>(spot.area)];
+    const int x = row.x + spot.index % Columns * row.step;
+    const int y = row.y + spot.index / Columns * RowStep;
+    PictureOf(spot).Place = {x, y, Card.w, Card.h};
+    MarkOf(spot).Place = {x - 1, y - 1, Mark.w, Mark.h};
+  }
+  CardStackPicture.Place = {middle - 118, deckTop, 76, 98};
+  FieldRect.Place = {middle - 166, fieldTop - 5, 333, 2 * RowStep + Card.h + 11};
+  core::CenterIn(lblFieldCards, {middle - 80, fieldTop - 22, 160, 16});
+  core::CenterIn(lblTemp, {middle - 80, storageTop - 18, 160, 16});
+}
+
+// --- what it shows ------------------------------------------------------------------------------
+
+ui::Picture& frmKestrane::PictureOf(Spot spot) {
+  if (spot.area == Area::UpCards) return UpCard(spot.index);
+  return spot.area == Area::Storage ? TempCard(spot.index) : PlayCard(spot.index);
+}
+
+ui::Shape& frmKestrane::MarkOf(Spot spot) {
+  if (spot.area == Area::UpCards) return UpCardSelection;
+  return spot.area == Area::Storage ? TempCardSelection(spot.index) : PlayCardSelection(spot.index);
+}
+
+// A column shows only in its first row that it is empty.
+void frmKestrane::ShowCard(Spot spot) {
+  ui::Picture& picture = PictureOf(spot);
+  const bool vanishes = spot.area == Area::Field && spot.index >= Columns;
+  picture.Border = rules_.HasCard(spot);
+  picture.Show(picture.Border ? rules_.KeyAt(spot) : vanishes ? "" : "EMPTY");
+  if (vanishes) picture.Visible = rules_.HasCard(spot);
+}
+
+void frmKestrane::ShowField() {
+  for (Spot spot : AllSpots) ShowCard(spot);
+}
+
+void frmKestrane::UpDateDeck() {
+  CardStackPicture.Show(rules_.StackPicture());
+  lblCardCount.Text = "Cards remaining: " + core::Digits(rules_.CardsRemaining());
+}
+
+void frmKestrane::ShowDeck(bool visible) {
+  UpCard.Show(visible);
+  CardStackPicture.Visible = visible;
+  if (!visible) UpCardSelection.Visible = false;
+}
+
+void frmKestrane::ShowSelection(bool visible) {
+  for (Spot spot : AllSpots) MarkOf(spot).Visible = visible && spot == rules_.Selected();
+}
+
+void frmKestrane::ShowCards(bool visible) {
+  ShowDeck(visible);
+  TempCard.Show(visible);
+  PlayCard.ForEach([&](int i, ui::Picture& picture) {
+    picture.Visible = visible && (i < Columns || rules_.HasCard({Area::Field, i}));
   });
-  TempCard.ForEach([&](int i, ui::Picture& card) {
-    card.Place = {middle - 114 + i * ColumnStep, storage, Card.w, Card.h};
-  });
-  UpCard.ForEach([&](int i, ui::Picture& card) {
-    card.Place = {middle - 22 + i * UpCardStep, deck, Card.w, Card.h};
-  });
-  CardStackPicture.Place = {middle - 118, deck, 76, 98};
-  FieldRect.Place = {middle - 166, field - 5, 333, 2 * RowStep + Card.h + 11};
-  core::CenterIn(lblFieldCards, {middle - 80, field - 22, 160, 16});
-  core::CenterIn(lblTemp, {middle - 80, storage - 18, 160, 16});
-  PlaceMark(UpCardSelection, UpCard(Rules::Front));
-  PlayCardSelection.ForEach([&](int i, ui::Shape& mark) { PlaceMark(mark, PlayCard(i)); });
-  TempCardSelection.ForEach([&](int i, ui::Shape& mark) { PlaceMark(mark, TempCard(i)); });
+  ShowSelection(visible);
+}
+
+void frmKestrane::ShowControls(bool visible, bool) {
+  Score.Show(true);
+  ShowTimerGroup(visible);
+  Trips.Show(visible);
+  Runs.Show(visible);
+  for (ui::Label* label : {&lblHighScore, &lblCardCount, &lblRound, &lblTemp, &lblFieldCards}) {
+    label->Visible = visible;
+  }
+  FieldRect.Visible = visible;
+}
+
+void frmKestrane::WriteCounts() {
+  Trips.Number.Text = core::Digits(rules_.TripCount);
+  Runs.Number.Text = core::Digits(rules_.RunCount);
+}
+
+void frmKestrane::ShowFlushMessage(Spot spot) {
+  core::CenterIn(lblFlush, PictureOf(spot).Place());
+  lblFlush.Visible = true;
+  suite.platform.Repaint(*this);
+}
+
+void frmKestrane::PauseBoard() {
+  ShowCards(false);
+  ShowControls(false, true);
+  Message.TextColor = ui::Blue;
+}
+
+void frmKestrane::ResumeBoard() {
+  if (!shared.GameActive) return;
+  ShowCards(true);
+  ShowControls(true, true);
+}
+
+void frmKestrane::HideAtExpiry() {
+  ShowDeck(false);
+  lblCardCount.Visible = false;
+  Wave("Slide.wav");
+}
+
+// --- the pointer --------------------------------------------------------------------------------
+
+void frmKestrane::PointAt(Spot spot) {
+  PictureOf(spot).Pointer = rules_.AnswerTo(spot) == Answer::Refused ? "" : "POINTER";
+}
+
+void frmKestrane::ClearPointers(bool frontToo) {
+  for (Spot spot : AllSpots) {
+    if (frontToo || spot.area != Area::UpCards) PictureOf(spot).Pointer = "";
+  }
 }
 
 }  // namespace games::kestrane

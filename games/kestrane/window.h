@@ -2,7 +2,6 @@
 #pragma once
 
 #include "core/scoring/scoring_table.h"
-#include "core/session/bonus_counter.h"
 #include "core/session/game_window.h"
 #include "games/kestrane/rules.h"
 #include "games/kestrane/settings.h"
@@ -26,9 +25,6 @@ class frmKestrane : public core::GameWindow {
   void PlaceBoard(ui::Size inner) override;
 
  private:
-  void PrepareControls();
-  void PlaceCards(int middle, int storage, int field, int deck);
-
   // Where it differs from the frame.
   ui::Button* TakeScoreButton() override { return &cmdTakeScore; }
   void Loaded() override { lblHighScore.Visible = true; }
@@ -40,79 +36,58 @@ class frmKestrane : public core::GameWindow {
   void StartGame();
   void GiveUp();
   void InitRound();
-  bool MakeDeck() { return suite.CreateDeck() && suite.ShuffleDeck(); }
-  void StartRound();
-  void Deal();
+  bool Deal();
 
   // The moves.
-  void UpCard_Click(int i);
-  void TempCard_Click(int i);
-  void PlayCard_Click(int i);
+  void UpCard_Click(int i) { ClickOn({Area::UpCards, i}); }
+  void TempCard_Click(int i) { ClickOn({Area::Storage, i}); }
+  void PlayCard_Click(int i) { ClickOn({Area::Field, i}); }
   void CardStackPicture_Click() { Wave("Chord.wav"); }
   void ClickOn(Spot spot);
   void CheckColumn(int column);
-  void ShowFlushMessage(int column);
-  void EndIfStuck();
   void NoMovesLeft();
-  void AddPoints(std::int64_t points);
 
   // The end of a round.
-  void ServePending();
   void EndRound();
   void PayDeckCompletion();
   void RemoveLeftOvers();
-  void RemoveLeftOver(Spot spot);
   void PaySeconds();
   void NextRound();
   void GameOver();
 
   // What the board shows.
+  void PlaceCards(int middle, int storageTop, int fieldTop, int deckTop);
   ui::Picture& PictureOf(Spot spot);
   ui::Shape& MarkOf(Spot spot);
   void ShowCard(Spot spot);
   void ShowField();
   void UpDateDeck();
-  void ShowSelection(bool visible);
   void ShowDeck(bool visible);
+  void ShowSelection(bool visible);
   void WriteCounts();
-  void ShowBigMessage(const std::string& text, ui::Color color);
-  void HideBigMessage();
-  void CenterScoringLabel();
-  void ShowFlushOver(const ui::Picture& card);
+  void CenterScoringLabel() { ScoringLabelOutline.Visible = !Message.Text().empty(); }
+  void ShowFlushMessage(Spot spot);
+  void PointAt(Spot spot);
+  void ClearPointers(bool frontToo);
 
   // The scoring dialog.
   std::vector<core::DialogItem> DialogItems();
+  core::NumberField Amount(const std::string& name, const std::string& label,
+                           std::int32_t Values::*value, std::int32_t highest,
+                           const std::string& what);
   core::NumberField PenaltyField();
   core::NumberField TimeBonusField();
-
-  // The pointer over the cards.
-  void UpCard_MouseMove(int i) { PointAt({Area::UpCards, i}); }
-  void TempCard_MouseMove(int i) { PointAt({Area::Storage, i}); }
-  void PlayCard_MouseMove(int i) { PointAt({Area::Field, i}); }
-  void PointAt(Spot spot);
-  void ClearPointers();
 
   kestrane::Rules rules_{suite.deck};
   Values values_;
   int deals_ = 0;  ///< tells one round from the next
 
   ui::Shape FieldRect{this, "FieldRect"};
-  ui::Array<ui::Picture> PlayCard{this,
-                                  "PlayCard",
-                                  0,
-                                  Rules::Slots - 1,
-                                  &frmKestrane::PlayCard_Click,
-                                  &frmKestrane::PlayCard_MouseMove};
-  ui::Array<ui::Shape> PlayCardSelection{this, "PlayCardSelection", 0, Rules::Slots - 1};
-  ui::Array<ui::Picture> TempCard{this,
-                                  "TempCard",
-                                  0,
-                                  Rules::Spots - 1,
-                                  &frmKestrane::TempCard_Click,
-                                  &frmKestrane::TempCard_MouseMove};
-  ui::Array<ui::Shape> TempCardSelection{this, "TempCardSelection", 0, Rules::Spots - 1};
-  ui::Array<ui::Picture> UpCard{
-      this, "UpCard", 0, Rules::Front, &frmKestrane::UpCard_Click, &frmKestrane::UpCard_MouseMove};
+  ui::Array<ui::Picture> PlayCard{this, "PlayCard", 0, Slots - 1, &frmKestrane::PlayCard_Click};
+  ui::Array<ui::Shape> PlayCardSelection{this, "PlayCardSelection", 0, Slots - 1};
+  ui::Array<ui::Picture> TempCard{this, "TempCard", 0, 2, &frmKestrane::TempCard_Click};
+  ui::Array<ui::Shape> TempCardSelection{this, "TempCardSelection", 0, 2};
+  ui::Array<ui::Picture> UpCard{this, "UpCard", 0, Front, &frmKestrane::UpCard_Click};
   ui::Shape UpCardSelection{this, "UpCardSelection"};
   ui::Picture CardStackPicture{this, "CardStackPicture", &frmKestrane::CardStackPicture_Click};
   ui::Label lblFieldCards{this, "lblFieldCards", "   Playing Field   "};

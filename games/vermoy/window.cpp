@@ -13,7 +13,7 @@ constexpr int ColumnStep = 71;
 constexpr int GridWidth = (Side - 1) * ColumnStep + CardSize.w;
 constexpr int HandHeight = 18;
 constexpr int ClosestRows = 82, WidestRows = 98;  // in the lowest window they overlap
-constexpr int LeftColumn = 128;
+constexpr int LeftColumn = 122;
 constexpr int ClockWidth = core::RoundClock::Extent.w;
 constexpr ui::Size MessageBoard{GridWidth, 130};
 
@@ -82,10 +82,10 @@ void frmVermoy::PlaceBoard(ui::Size inner) {
       std::clamp((inner.h - CardSize.h - HandHeight - 17) / (Side - 1), ClosestRows, WidestRows);
   const int height = (Side - 1) * rowStep + CardSize.h + HandHeight;
   const int top = (inner.h - height) / 2;
-  const int grid = inner.w / 2 - 187;
+  const int grid = inner.w / 2 - 197;
   PlaceGrid({grid, top}, rowStep);
-  PlaceLeftColumn({inner.w / 2 - 321, top}, height);
-  const int clock = inner.w - 92;
+  PlaceLeftColumn({inner.w / 2 - 324, top}, height);
+  const int clock = inner.w - 88;
   Clock.SetPlace({clock, 124});
   Clock.Frame.SetPlace({clock, 124, ClockWidth, 128});
   core::CenterIn(Clock.lblTime, {clock + 2, 204, ClockWidth - 4, 18});
@@ -102,7 +102,7 @@ void frmVermoy::PlaceGrid(ui::Point at, int rowStep) {
     cell.Place = {at.x + i % Side * ColumnStep, at.y + i / Side * rowStep, CardSize.w, CardSize.h};
   });
   lblRow.ForEach([&](int i, ui::Label& label) {
-    label.Place = {at.x + GridWidth + 3, at.y + (i - 1) * rowStep + 34, 74, HandHeight};
+    label.Place = {at.x + GridWidth + 10, at.y + (i - 1) * rowStep + 34, 64, HandHeight};
   });
   lblCol.ForEach([&](int i, ui::Label& label) {
     const ui::Rect bottomCard = PlayCards(Cells - Side + i - 1).Place();
@@ -111,12 +111,12 @@ void frmVermoy::PlaceGrid(ui::Point at, int rowStep) {
 }
 
 void frmVermoy::PlaceLeftColumn(ui::Point at, int height) {
-  HoleCard.Place = {at.x + 29, at.y, CardSize.w, CardSize.h};
-  CardStackPicture.Place = {at.x + 26, at.y + 103, 76, 98};
+  HoleCard.Place = {at.x + 26, at.y, CardSize.w, CardSize.h};
+  CardStackPicture.Place = {at.x + 23, at.y + 103, 76, 98};
   const int counters = at.y + 210;
   RoundFrame.SetPlace({at.x, counters, LeftColumn, 112});
   core::CenterIn(lblRound, {at.x + 4, counters + 4, LeftColumn - 8, 18});
-  core::CenterIn(lblCards, {at.x + 4, counters + 22, LeftColumn - 8, 18});
+  core::CenterIn(lblCards, {at.x + 2, counters + 22, LeftColumn - 4, 18});
   core::CenterIn(lblOverWrites, {at.x + 4, counters + 40, LeftColumn - 8, 34});
   core::CenterIn(lblPointsEarned, {at.x + 4, counters + 74, LeftColumn - 8, 34});
   Score.SetPlace({at.x, at.y + height - 84, LeftColumn, 44});

@@ -21,7 +21,7 @@ struct Round {
     rules.InitRound();
     rules.Deal();
   }
-  Answer Up() { return rules.Click({Area::UpCards, Rules::Front}); }
+  Answer Up() { return rules.Click({Area::UpCards, Front}); }
   Answer Column(int slot) { return rules.Click({Area::Field, slot}); }
   Answer Store(int spot) { return rules.Click({Area::Storage, spot}); }
   Made Lay(int column) {
@@ -44,11 +44,10 @@ struct Round {
 Keys Snapshot(const Rules& rules) {
   Keys all;
   for (Area area : {Area::UpCards, Area::Storage, Area::Field}) {
-    for (int i = 0; i < Rules::Slots; ++i) all.push_back(rules.KeyAt({area, i}));
+    for (int i = 0; i < Slots; ++i) all.push_back(rules.KeyAt({area, i}));
   }
-  for (int number : {static_cast<int>(rules.DeckIndex()), static_cast<int>(rules.CardSelected()),
-                     static_cast<int>(rules.Selected().area), rules.Selected().index,
-                     static_cast<int>(rules.TripCount()), static_cast<int>(rules.RunCount())}) {
+  for (std::int16_t number : {rules.DeckIndex, static_cast<std::int16_t>(rules.SelectedArea),
+                              rules.SelectedIndex, rules.TripCount, rules.RunCount}) {
     all.push_back(std::to_string(number));
   }
   return all;
@@ -77,9 +76,9 @@ TEST(ColumnsClearForTripsAndRunsInTheOrderInWhichTheCardsLie) {
                           : !run ? Made::Nothing
                                  : (suits == "SSS" ? Made::Flush : Made::Run);
     CHECK(round.Lay(column) == expected);
-    CHECK_EQ(round.rules.TripCount(), trip ? 1 : 0);
-    CHECK_EQ(round.rules.RunCount(), run ? 1 : 0);
-    CHECK_EQ(round.rules.ColumnFull(column), expected == Made::Nothing);
+    CHECK_EQ(round.rules.TripCount, trip ? 1 : 0);
+    CHECK_EQ(round.rules.RunCount, run ? 1 : 0);
+    CHECK_EQ(round.rules.HasCard({Area::Field, 8 + column}), expected == Made::Nothing);
     CHECK_EQ(round.Field(column).empty(), expected != Made::Nothing);
   }
 }
@@ -93,10 +92,10 @@ TEST(AClickSelectsMovesCancelsOrIsRefused) {
 
   // The up card: selected, cancelled, moved to a column that fills from the top.
   CHECK(round.Up() == Answer::Select);
-  CHECK(round.rules.Selected().area == Area::UpCards);
-  CHECK(round.rules.Click({Area::UpCards, 0}) == Answer::Refused && round.rules.CardSelected());
+  CHECK(round.rules.SelectedArea == Area::UpCards);
+  CHECK(round.rules.Click({Area::UpCards, 0}) == Answer::Refused && round.rules.CardSelected);
   CHECK(round.Up() == Answer::Cancel);
-  CHECK(!round.rules.CardSelected() && round.rules.Selected().index == -1);
+  CHECK(!round.rules.CardSelected && round.rules.SelectedIndex == -1);
   CHECK(round.Lay(9) == Made::Nothing);
   CHECK_EQ(round.Field(1), "5S");
   CHECK_EQ(round.UpCards(), (Keys{"1C", "6D", "7H"}));
@@ -106,21 +105,21 @@ TEST(AClickSelectsMovesCancelsOrIsRefused) {
 
   // 5-7-6 stays; only its top card can be taken, wherever the column is hit.
   CHECK(round.Up() == Answer::Select);
-  CHECK(round.Column(5) == Answer::Refused && round.rules.CardSelected());
+  CHECK(round.Column(5) == Answer::Refused && round.rules.CardSelected);
   CHECK(round.Up() == Answer::Cancel);
   CHECK(round.Column(1) == Answer::Select);
-  CHECK_EQ(round.rules.Selected().index, 9);
+  CHECK_EQ(round.rules.SelectedIndex, 9);
   CHECK(round.Up() == Answer::Refused && round.Column(5) == Answer::Cancel);
   CHECK(round.Column(5) == Answer::Select && round.Store(1) == Answer::Move);
   CHECK_EQ(round.Stored(1), "6D");
-  CHECK(!round.rules.ColumnFull(1));
+  CHECK(round.Field(9).empty());
 
   // Storage: shuffled, refused to another card, and back to the field, where it makes a run.
   CHECK(round.Store(1) == Answer::Select && round.Store(1) == Answer::Cancel);
   CHECK(round.Store(1) == Answer::Select && round.Store(2) == Answer::Move);
   CHECK(round.Stored(1).empty() && round.Stored(2) == "6D");
   CHECK(round.Up() == Answer::Select && round.Store(2) == Answer::Refused);
-  CHECK(round.Store(0) == Answer::Move && round.rules.DeckIndex() == 7);
+  CHECK(round.Store(0) == Answer::Move && round.rules.DeckIndex == 7);
   CHECK(round.Column(1) == Answer::Select && round.Store(2) == Answer::Refused);
   CHECK(round.Store(1) == Answer::Move);
   CHECK(round.Store(2) == Answer::Select && round.Column(1) == Answer::Move);
@@ -138,7 +137,7 @@ TEST(AWholeDeckIsPlayedIntoTripsAndRuns) {
   Round round(keys);
   for (int played = 0; played < 52; ++played) {
     const int index = 3 + played;
-    CHECK_EQ(round.rules.DeckIndex(), index);
+    CHECK_EQ(round.rules.DeckIndex, index);
     CHECK_EQ(round.rules.CardsRemaining(), 52 - played);
     CHECK_EQ(round.rules.StackPicture(), index < 20    ? "FULL"
                                          : index <= 35 ? "HALF"
@@ -155,8 +154,8 @@ TEST(AWholeDeckIsPlayedIntoTripsAndRuns) {
   CHECK(round.rules.DeckUsedUp());
   CHECK_EQ(round.rules.CardsRemaining(), 0);
   CHECK(round.Up() == Answer::Refused);
-  CHECK_EQ(round.rules.TripCount(), 13);
-  CHECK_EQ(round.rules.RunCount(), 4);
+  CHECK_EQ(round.rules.TripCount, 13);
+  CHECK_EQ(round.rules.RunCount, 4);
 
   // What is left is moved about, and taken off from the last slot and the last spot on.
   CHECK(round.Column(10) == Answer::Select && round.Store(1) == Answer::Move);
@@ -170,7 +169,7 @@ TEST(NoMoveIsLeftWhenStorageAndColumnsAreFullAndWhatIsLeftGoesFromTheEnd) {
   Keys keys;
   for (int i = 0; i < 15; ++i) keys.push_back(core::KeyFromNumber(1 + i * 2 % 13, 'S'));
   Round round(keys);
-  for (int column = 0; column < Rules::Columns; ++column) {
+  for (int column = 0; column < Columns; ++column) {
     for (int row = 0; row < 3; ++row) CHECK(round.Lay(column) == Made::Nothing);
   }
   for (int spot : {2, 0, 1}) {
@@ -191,12 +190,12 @@ TEST(NoMoveIsLeftWhenStorageAndColumnsAreFullAndWhatIsLeftGoesFromTheEnd) {
 TEST(TheThirdRoundHasToBeEarned) {
   Round round({});
   Rules& rules = round.rules;
-  rules.StartGame();
+  rules.RoundNumber = 1;
   CHECK(rules.EarnsNextRound(-5000, 100000));
-  rules.NextRound();
+  ++rules.RoundNumber;
   CHECK(!rules.EarnsNextRound(99999, 100000) && rules.EarnsNextRound(100000, 100000));
   CHECK(rules.EarnsNextRound(0, 0) && !rules.EarnsNextRound(-1, 0));
-  rules.NextRound();
+  ++rules.RoundNumber;
   CHECK(!rules.EarnsNextRound(999999, 100000));
 }
 
@@ -219,7 +218,7 @@ TEST(AnyOrderOfClicksKeepsTheCards) {
       const Answer promised = round.rules.AnswerTo({area, index});
       CHECK(round.rules.Click({area, index}) == promised);
       CHECK_EQ(Snapshot(round.rules) == before, promised == Answer::Refused);
-      for (int column = -1; column <= Rules::Columns; ++column) {
+      for (int column = -1; column <= Columns; ++column) {
         if (round.rules.CheckColumn(column) != Made::Nothing) cleared += 3;
       }
       std::set<std::string> seen;
@@ -229,10 +228,10 @@ TEST(AnyOrderOfClicksKeepsTheCards) {
         ++lying;
         CHECK(seen.insert(key).second);
       }
-      const int hidden = std::max(0, 52 - round.rules.DeckIndex());
+      const int hidden = std::max(0, 52 - round.rules.DeckIndex);
       CHECK_EQ(lying + hidden + cleared, 52);
-      for (int slot = 0; slot + Rules::Columns < Rules::Slots; ++slot) {
-        CHECK(!round.Field(slot).empty() || round.Field(slot + Rules::Columns).empty());
+      for (int slot = 0; slot + Columns < Slots; ++slot) {
+        CHECK(!round.Field(slot).empty() || round.Field(slot + Columns).empty());
       }
     }
   }
