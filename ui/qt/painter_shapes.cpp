@@ -11,6 +11,7 @@ namespace ui::qt {
 namespace {
 
 constexpr int Shadow = 6;
+constexpr int LargestRing = 130;  // pixels
 
 void PaintSunken(QPainter& painter, const QRectF& box) {
   painter.setRenderHint(QPainter::Antialiasing, false);
@@ -50,6 +51,18 @@ void PaintPanel(QPainter& painter, const QRectF& panel) {
   painter.drawRoundedRect(panel.adjusted(5.5, 5.5, -5.5, -5.5), 5, 5);
 }
 
+/// Round a card a ring that can't be overlooked, round a whole field a line.
+void PaintOutline(QPainter& painter, const QRectF& place, const QColor& color) {
+  const bool ring = place.width() <= LargestRing && place.height() <= LargestRing;
+  const QRectF line = place.adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.setBrush(Qt::NoBrush);
+  // A rim keeps the colour apart from the card and from the table.
+  painter.setPen(QPen(ring ? QColor(0, 0, 0, 110) : QColor(255, 255, 255, 50), ring ? 5 : 4));
+  painter.drawRoundedRect(line, 6, 6);
+  painter.setPen(QPen(color, ring ? 3 : 1.5));
+  painter.drawRoundedRect(line, 6, 6);
+}
+
 void PaintGroup(QPainter& painter, const QRectF& place, const QString& caption, Ground ground) {
   const bool felt = ground == Ground::Felt;
   painter.setFont(FontOf(9, false));
@@ -83,15 +96,9 @@ void PaintShape(QPainter& painter, const Shape& shape) {
     case Shape::Look::Board:
       InBands(painter, place.adjusted(-8, -8, 8, 8), [&] { PaintBoard(painter, place); });
       break;
-    case Shape::Look::Outline: {
-      // A dark rim keeps the colour apart from the card and from the table.
-      painter.setBrush(Qt::NoBrush);
-      painter.setPen(QPen(QColor(0, 0, 0, 110), 5));
-      painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
-      painter.setPen(QPen(ColorOf(shape.LineColor()), 3));
-      painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+    case Shape::Look::Outline:
+      PaintOutline(painter, place, ColorOf(shape.LineColor()));
       break;
-    }
   }
   painter.restore();
 }

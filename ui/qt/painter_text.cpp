@@ -10,12 +10,14 @@
 namespace ui::qt {
 namespace {
 
-constexpr double ReadsWell = 4.0;
+constexpr double ReadsWell = 4.5;
+constexpr double ReadsTinted = 3.2;  // enough, and the hue is still plain
 constexpr double ReadsOnLight = 3.0;
 // A text that is too wide for its place is shrunk to these shares of its size, and then stands over.
 constexpr double SmallestShare = 0.85;
 constexpr double SmallestTitleShare = 0.6;
 constexpr int MessageSize = 14;         // points; larger texts on the table get a plaque
+constexpr int SmallSize = 10;           // points; up to here coloured texts get a lighter ink
 constexpr QMarginsF PlaqueMargins{9, 3, 9, 4};
 constexpr QMarginsF LampMargins{6, 1, 6, 1};
 constexpr double CellWidth = 40;  // pixels; a narrower place is lit as a whole
@@ -27,16 +29,32 @@ struct Ink {
   Under under = Under::Nothing;  ///< a light plate, or a dark one on which bright letters glow
 };
 
-Ink InkOn(Ground ground, const Label& label) {
-  const QColor color = ColorOf(label.TextColor());
-  if (ground != Ground::Felt) {
-    const bool readable = Contrast(color, ColorOf(ground)) >= ReadsOnLight;
-    return {color, readable ? Ink::Under::Nothing : Ink::Under::Lamp};
+/// The same hue, as light as it takes to be read on the ground.
+QColor Lightened(const QColor& color, const QColor& ground) {
+  float hue = 0, saturation = 0, lightness = 0;
+  color.getHslF(&hue, &saturation, &lightness);
+  QColor ink = color;
+  for (; lightness < 0.95F && Contrast(ink, ground) < ReadsTinted; lightness += 0.02F) {
+    ink = QColor::fromHslF(std::max(0.0F, hue), saturation, lightness);
   }
-  const bool big = label.FontSize() >= MessageSize;
-  if (label.TextColor() == Black && !big) return {tone::Cream};
-  const bool readable = !big && Contrast(color, ColorOf(ground)) >= ReadsWell;
-  return {color, readable ? Ink::Under::Nothing : Ink::Under::Plaque};
+  return ink;
+}
+
+Ink InkOnFelt(const Label& label) {
+  const QColor color = ColorOf(label.TextColor()), felt = ColorOf(Ground::Felt);
+  if (label.FontSize() < MessageSize) {
+    if (label.TextColor() == Black) return {tone::Cream};
+    if (Contrast(color, felt) >= ReadsWell) return {color};
+    if (label.FontSize() <= SmallSize) return {Lightened(color, felt)};
+  }
+  return {color, Ink::Under::Plaque};
+}
+
+Ink InkOn(Ground ground, const Label& label) {
+  if (ground == Ground::Felt) return InkOnFelt(label);
+  const QColor color = ColorOf(label.TextColor());
+  const bool readable = Contrast(color, ColorOf(ground)) >= ReadsOnLight;
+  return {color, readable ? Ink::Under::Nothing : Ink::Under::Lamp};
 }
 
 QStringList BreakLines(const QString& text, const QFontMetricsF& metrics, double width) {

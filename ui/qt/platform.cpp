@@ -19,6 +19,7 @@
 #include "ui/qt/sound.h"
 #include "ui/qt/strings.h"
 #include "ui/qt/style.h"
+#include "ui/qt/warm_up.h"
 
 namespace ui::qt {
 namespace {
@@ -66,7 +67,7 @@ class QtPlatform::PumpScope {
 
 QtPlatform::QtPlatform(int& argc, char** argv, Installation installation,
                        std::unique_ptr<Clock> clock)
-    : clock_(std::move(clock)) {
+    : clock_(std::move(clock)), warmUp_(std::make_unique<WarmUp>()) {
   QApplication::setStyle(MakeStyle());
   application_ = std::make_unique<QApplication>(argc, argv);
   QApplication::setPalette(PaperPalette());
@@ -90,6 +91,7 @@ QtPlatform::~QtPlatform() {
 
 int QtPlatform::Exec() {
   Settle();
+  warmUp_.reset();
   return quitting_ ? 0 : QApplication::exec();
 }
 

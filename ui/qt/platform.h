@@ -22,6 +22,7 @@ class InstantMnemonics;
 class Mail;
 class QtWindow;
 class Sound;
+class WarmUp;
 
 /// Where the desktop program finds its own files.
 struct Installation {
@@ -111,6 +112,7 @@ class QtPlatform : public Desk {
   bool WaitFor(QProcess& process);
 
   std::unique_ptr<Clock> clock_;
+  std::unique_ptr<WarmUp> warmUp_;
   std::unique_ptr<QApplication> application_;
   std::unique_ptr<InstantMnemonics> mnemonics_;
   std::unique_ptr<Artwork> artwork_;
