@@ -87,8 +87,9 @@ std::string_view Rules::StackPicture() const {
 }
 
 Spot Rules::NextLeftOver() const {
-  const auto last =
-      std::find_if(AllSpots.rbegin(), AllSpots.rend(), [this](Spot spot) { return HasCard(spot); });
+  const auto last = std::find_if(AllSpots.rbegin(), AllSpots.rend(), [this](Spot spot) {
+    return spot.area != Area::UpCards && HasCard(spot);
+  });
   return last == AllSpots.rend() ? Spot{} : *last;
 }
 

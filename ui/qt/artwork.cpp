@@ -32,7 +32,11 @@ QSize Device(QSizeF size, qreal ratio) {
 }
 
 QString KeyOf(const QString& name, QSize device, qreal ratio) {
-  return QStringLiteral("%1/%2x%3@%4").arg(name).arg(device.width()).arg(device.height()).arg(ratio);
+  return QStringLiteral("%1/%2x%3@%4")
+      .arg(name)
+      .arg(device.width())
+      .arg(device.height())
+      .arg(ratio);
 }
 
 }  // namespace

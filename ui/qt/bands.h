@@ -16,9 +16,9 @@ void InBands(QPainter& painter, const QRectF& area, Paint paint) {
   const QRect whole = area.toAlignedRect();
   for (int top = whole.top(); top <= whole.bottom(); top += BandHeight) {
     painter.save();
-    painter.setClipRect(QRect(whole.left(), top, whole.width(),
-                              std::min(BandHeight, whole.bottom() - top + 1)),
-                        Qt::IntersectClip);
+    painter.setClipRect(
+        QRect(whole.left(), top, whole.width(), std::min(BandHeight, whole.bottom() - top + 1)),
+        Qt::IntersectClip);
     paint();
     painter.restore();
   }

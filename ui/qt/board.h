@@ -23,7 +23,8 @@ class Board : public QWidget {
 
   /// A painted control has changed: what it covered and what it covers now are painted again.
   void ControlChanged(Control& control);
-  /// Where the controls lie on top of each other, the topmost that takes the pointer; null for none.
+  /// Where the controls lie on top of each other, the topmost that takes the pointer; null for
+  /// none.
   Control* ControlAt(QPoint at) const;
   QtWindow& Host() const { return host_; }
   void Click(Control& control);

@@ -84,9 +84,8 @@ void Board::MoveFocus(int dx, int dy) {
     return DistanceAlong(from, t.area.center(), dx, dy);
   };
   const auto nearest =
-      std::min_element(targets.begin(), targets.end(), [&](const Target& a, const Target& b) {
-        return distance(a) < distance(b);
-      });
+      std::min_element(targets.begin(), targets.end(),
+                       [&](const Target& a, const Target& b) { return distance(a) < distance(b); });
   if (distance(*nearest) < std::numeric_limits<int>::max()) FocusOn(*nearest);
 }
 

@@ -52,8 +52,8 @@ class FieldMirror : public Mirror {
   Field& field_;
 
  private:
-  /// A change of the text moves the control's cursor to the end; the player's is where it is, unless
-  /// the program has set text or selection meanwhile.
+  /// A change of the text moves the control's cursor to the end; the player's is where it is,
+  /// unless the program has set text or selection meanwhile.
   void KeepSelection(const std::string& text, Selection selection) {
     if (!host_.Model() || field_.Text() != text) return;
     const Selection atEnd{static_cast<int>(text.size()), 0};

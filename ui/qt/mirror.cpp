@@ -158,7 +158,10 @@ class BarMirror : public Mirror {
     widget_->setTextVisible(false);
     widget_->setRange(bar.Min, bar.Max);
   }
-  void SyncContent() override { widget_->setValue(std::clamp(bar_.Value(), bar_.Min, bar_.Max)); }
+  void SyncContent() override {
+    widget_->setValue(std::clamp(bar_.Value(), bar_.Min, bar_.Max));
+    widget_->update();  // the bar itself leaves out small steps
+  }
 
  private:
   Bar& bar_;

@@ -15,8 +15,8 @@ constexpr int EdgeShade = 28;     // pixels
 constexpr int TileSize = 64;      // pixels
 constexpr int DeepestShade = 60;  // of 255
 
-/// Fills a part with copies of a tile, one of which starts at `origin`. Copies of whole tiles need no
-/// threads in Qt; larger fills do, and starting those costs more than painting a small window.
+/// Fills a part with copies of a tile, one of which starts at `origin`. Copies of whole tiles need
+/// no threads in Qt; larger fills do, and starting those costs more than painting a small window.
 void PaintTiles(QPainter& painter, const QPixmap& tile, QPoint origin, const QRect& part) {
   const QSize size = tile.deviceIndependentSize().toSize();
   const int w = size.width(), h = size.height();
@@ -32,7 +32,8 @@ void PaintTiles(QPainter& painter, const QPixmap& tile, QPoint origin, const QRe
 
 /// A tile of shade that is deepest at its left edge, turned clockwise by quarters of a circle.
 QPixmap MakeShade(int quarters, qreal ratio) {
-  const int width = int(std::lround(EdgeShade * ratio)), height = int(std::lround(TileSize * ratio));
+  const int width = int(std::lround(EdgeShade * ratio)),
+            height = int(std::lround(TileSize * ratio));
   QImage shade(width, height, QImage::Format_ARGB32_Premultiplied);
   for (int x = 0; x < width; ++x) {
     const int depth = DeepestShade * (width - x) / width;

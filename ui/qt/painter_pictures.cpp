@@ -111,8 +111,7 @@ void PaintStroke(QPainter& painter, const Stroke& stroke) {
 void PaintPicture(QPainter& painter, const Picture& picture, const Scene& scene) {
   const QRectF place = ToQt(picture.PlaceInWindow());
   if (!picture.Image().empty()) {
-    const QPixmap file =
-        scene.artwork.File(picture.Image(), place.size().toSize(), scene.ratio);
+    const QPixmap file = scene.artwork.File(picture.Image(), place.size().toSize(), scene.ratio);
     painter.drawPixmap(place.topLeft(), file);
   }
   if (picture.Artwork().empty()) return;

@@ -13,11 +13,12 @@ namespace {
 constexpr double ReadsWell = 4.5;
 constexpr double ReadsTinted = 3.2;  // enough, and the hue is still plain
 constexpr double ReadsOnLight = 3.0;
-// A text that is too wide for its place is shrunk to these shares of its size, and then stands over.
+// A text that is too wide for its place is shrunk to these shares of its size, and then stands
+// over.
 constexpr double SmallestShare = 0.85;
 constexpr double SmallestTitleShare = 0.6;
-constexpr int MessageSize = 14;         // points; larger texts on the table get a plaque
-constexpr int SmallSize = 10;           // points; up to here coloured texts get a lighter ink
+constexpr int MessageSize = 14;  // points; larger texts on the table get a plaque
+constexpr int SmallSize = 10;    // points; up to here coloured texts get a lighter ink
 constexpr QMarginsF PlaqueMargins{9, 3, 9, 4};
 constexpr QMarginsF LampMargins{6, 1, 6, 1};
 constexpr double CellWidth = 40;  // pixels; a narrower place is lit as a whole

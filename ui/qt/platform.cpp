@@ -24,8 +24,8 @@
 namespace ui::qt {
 namespace {
 
-constexpr int MostRounds = 200;          // of serving input that goes on causing events
-constexpr int ComposerPatience = 3000;   // milliseconds; a mail composer may stay in foreground
+constexpr int MostRounds = 200;         // of serving input that goes on causing events
+constexpr int ComposerPatience = 3000;  // milliseconds; a mail composer may stay in foreground
 constexpr std::int64_t LongestSleep = 60'000;
 
 /// Input that a wait has held back arrives only after the dispatcher has been woken.
@@ -174,7 +174,8 @@ void QtPlatform::ArmTimer() {
     timer_->stop();
     return;
   }
-  timer_->start(static_cast<int>(std::clamp<std::int64_t>(first->Due() - Ticks(), 0, LongestSleep)));
+  timer_->start(
+      static_cast<int>(std::clamp<std::int64_t>(first->Due() - Ticks(), 0, LongestSleep)));
 }
 
 // --- Keeping in step ---------------------------------------------------------------------------
@@ -315,14 +316,28 @@ std::optional<std::string> QtPlatform::AskFile(const FileDialog& dialog) {
   return AskForFile(ActiveView(), dialog);
 }
 
-void QtPlatform::PlayWave(const std::string& path) { sound_->PlayWave(path); }
-bool QtPlatform::OpenMusic(const std::string& path) { return sound_->OpenMusic(path); }
-void QtPlatform::PlayMusic() { sound_->PlayMusic(); }
-void QtPlatform::PauseMusic() { sound_->StopMusic(); }
-void QtPlatform::CloseMusic() { sound_->CloseMusic(); }
+void QtPlatform::PlayWave(const std::string& path) {
+  sound_->PlayWave(path);
+}
+bool QtPlatform::OpenMusic(const std::string& path) {
+  return sound_->OpenMusic(path);
+}
+void QtPlatform::PlayMusic() {
+  sound_->PlayMusic();
+}
+void QtPlatform::PauseMusic() {
+  sound_->StopMusic();
+}
+void QtPlatform::CloseMusic() {
+  sound_->CloseMusic();
+}
 
-PageResult QtPlatform::OpenPage(const std::string& url) { return OpenInBrowser(url); }
-void QtPlatform::ViewText(const std::string& path) { OpenInViewer(path); }
+PageResult QtPlatform::OpenPage(const std::string& url) {
+  return OpenInBrowser(url);
+}
+void QtPlatform::ViewText(const std::string& path) {
+  OpenInViewer(path);
+}
 
 bool QtPlatform::MailStep(const std::string& operation, std::optional<std::string> value) {
   return mail_->Step(operation, value);

@@ -45,7 +45,8 @@ QUrl MailtoUrl(const QString& address, const QString& subject, const QString& bo
   url.setScheme(QStringLiteral("mailto"));
   url.setPath(address);
   QUrlQuery query;
-  query.addQueryItem(QStringLiteral("subject"), QString::fromLatin1(QUrl::toPercentEncoding(subject)));
+  query.addQueryItem(QStringLiteral("subject"),
+                     QString::fromLatin1(QUrl::toPercentEncoding(subject)));
   query.addQueryItem(QStringLiteral("body"), QString::fromLatin1(QUrl::toPercentEncoding(body)));
   url.setQuery(query);
   return url;

@@ -1,6 +1,8 @@
 // Buttons as raised ivory, captions in ink, on the felt in cream.
 #include "ui/qt/style.h"
 
+#include <algorithm>
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPalette>
@@ -31,6 +33,15 @@ class Style : public QProxyStyle {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
 
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+        bar && element == CE_ProgressBar) {
+      return DrawBar(*bar, *painter);
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+  }
+
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     if (metric == PM_ButtonShiftVertical) return 1;
@@ -47,6 +58,24 @@ class Style : public QProxyStyle {
   }
 
  private:
+  /// A sunken groove that fills from the left.
+  static void DrawBar(const QStyleOptionProgressBar& bar, QPainter& painter) {
+    const QRectF groove = QRectF(bar.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    const int range = std::max(1, bar.maximum - bar.minimum);
+    const double share = std::clamp(double(bar.progress - bar.minimum) / range, 0.0, 1.0);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(tone::Wood));
+    painter.setBrush(QColor(tone::Box));
+    painter.drawRoundedRect(groove, 4, 4);
+    QRectF filled = groove.adjusted(1.5, 1.5, -1.5, -1.5);
+    filled.setWidth(filled.width() * share);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(tone::Gold));
+    if (share > 0) painter.drawRoundedRect(filled, 3, 3);
+    painter.restore();
+  }
+
   static void DrawButton(const QStyleOption& option, QPainter& painter) {
     const bool enabled = option.state & State_Enabled;
     const bool down = option.state & (State_Sunken | State_On);
