@@ -47,6 +47,7 @@ void frmKestrane::ShowScoringDialog() {
       suite, {.window = "frmKestraneCustom",
               .frame = "frmScoringOptions",
               .items = DialogItems(),
+              .replacesBeforeMessage = true,
               .defaults = [this](core::ScoringDialog&) { ChooseTimeLimit(StandardTimeLimit); }});
   suite.ShowModal(dialog);
 }

@@ -28,6 +28,7 @@ core::ScoringTable frmOstrel::ScoringTableOfDialog() {
   core::ScoringTable table;
   table.window = "frmOstrelCustom";
   table.frame = "frmScoringOptions";
+  table.replacesBeforeMessage = true;
   table.items = {
       core::Field(
           "txtCardValue",
