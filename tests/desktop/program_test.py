@@ -56,8 +56,7 @@ def a_set(program):
 
 
 def make_sets(program, wanted):
-    """Makes so many sets, and draws as often as it takes; returns the number of draws."""
-    draws = 0
+    """Makes so many sets, and draws as often as it takes."""
     while int(program.text("lblCurrentElevens")) < wanted:
         before = program.text("lblCurrentElevens")
         cards = a_set(program)
@@ -69,9 +68,7 @@ def make_sets(program, wanted):
             count = program.text("lblCardCount")
             program.click("PlayCardPicture")
             program.until(lambda: program.text("lblCardCount") != count, "a draw")
-            draws += 1
         time.sleep(0.05)
-    return draws
 
 
 def a_game_of_quindle(display):
@@ -82,9 +79,10 @@ def a_game_of_quindle(display):
     program.until(lambda: program.text("lblCardCount") == "Cards: 30", "thirty cards to draw")
     check(program.ask("spoken " + FIELD[21]).startswith("button "), "a card is spoken of")
 
-    draws = make_sets(program, 2)
+    make_sets(program, 2)
+    left = int(program.text("lblCardCount").split()[1])
     program.click("PlayCardPicture")
-    program.until(lambda: program.text("lblCardCount") == "Cards: %d" % (29 - draws), "one drawn")
+    program.until(lambda: program.text("lblCardCount") == "Cards: %d" % (left - 1), "one drawn")
 
     program.keys("alt+s")
     program.until(lambda: program.text("lblMessage") == "Game Paused", "a pause")
@@ -158,4 +156,55 @@ def sounds(display):
     program.until(lambda: os.path.exists(record) and loudest(record) > 1000, "music is heard")
 
 
-play([a_game_of_quindle, sounds])
+# Of each game: its button and window, what is clicked, and the text that some click must change.
+GAMES = [
+    ("cmdMozaro", "frmMozaro", None, "lblTotalScore"),
+    ("cmdBrenlock", "frmBrenlock", ["cmdHit(0)"], "ColumnTotal(0)"),
+    ("cmdHarvel", "frmHarvel", ["cmdHit(0)"], "lblCardsUsedCount"),
+    ("cmdOstrel", "frmOstrel", ["CardStackPicture"], "lblCards"),
+    ("cmdPellow", "frmPellow", ["CardStackPicture"], "lblCards"),
+    ("cmdVermoy", "frmVermoy", ["PlayCards(0)"], "lblCards"),
+    ("cmdKestrane", "frmKestrane", ["UpCard(2)", "PlayCard(0)"], "lblCardCount"),
+    ("cmdPhrase", "frmPhrase", ["cmdLetter(%d)" % i for i in (19, 13, 17, 18, 11, 2)],
+     "lblCurrentScore"),
+    ("cmdFandrel", "frmFandrel", ["imgPlayCard(1)", "imgUpperCard(1)"], "lblCardCount"),
+]
+
+
+def clicks_on(program, controls):
+    """The places to be clicked in turn: those controls, or points all over Mozaro's grid."""
+    if controls:
+        return [(name, 0.5, 0.5) for name in controls]
+    return [("PlayingSurface", x / 14 + 0.03, y / 8 + 0.05) for y in range(8) for x in range(14)]
+
+
+def every_game(display):
+    """Each game opens, is played by a click on its board, stands still paused, and closes."""
+    program, home = start(display)
+    for button, window, controls, counter in GAMES:
+        program.click(button)
+        program.until(lambda: program.ask("windows") == window + " frmSelect:hidden", window)
+        time.sleep(0.3)
+        program.click("cmdPlay")
+        program.until(lambda: program.text("cmdPlay") != "&Play", window + " is played")
+        time.sleep(0.2)
+        before = program.text(counter)
+        for name, x, y in clicks_on(program, controls):
+            if program.text(counter) == before:
+                program.click(name, x, y)
+                time.sleep(0.15)
+        program.until(lambda: program.text(counter) != before, counter + " of " + window)
+        program.click("cmdPause")
+        program.until(lambda: program.text("cmdPause") == "&Resume", window + " is paused")
+        program.click("cmdPause")
+        program.until(lambda: program.text("cmdPause") != "&Resume", window + " goes on")
+        program.keys("alt+F4")
+        time.sleep(0.6)
+        program.keys("alt+y")
+        program.until(lambda: program.ask("windows") == "frmSelect", "back from " + window)
+        time.sleep(0.3)
+    settings = [name for name in os.listdir(home) if name.endswith(".Ini")]
+    check(len(settings) == len(GAMES), "every game has written its settings: %s" % settings)
+
+
+play([a_game_of_quindle, sounds, every_game])
