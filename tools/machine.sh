@@ -58,3 +58,17 @@ build_in() {
   rm -f "$log"
   cmake --build "$directory" --parallel "$(nproc)"
 }
+
+# test_if_changed DIRECTORY: runs its tests, unless they have passed since programs and scripts were
+# last changed.
+test_if_changed() {
+  passed=$1/passed
+  if [ -e "$passed" ] && [ -z "$(find "$1" -type f -perm -u+x -newer "$passed" -print -quit)" ] &&
+    [ -z "$(find tests assets -type f -newer "$passed" -print -quit)" ]; then
+    say "Nothing has changed since these tests last passed."
+    return 0
+  fi
+  rm -f "$passed"
+  ctest --test-dir "$1" --output-on-failure --parallel "$(nproc)" || return 1
+  touch "$passed"
+}
