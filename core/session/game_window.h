@@ -24,7 +24,7 @@ struct Vocabulary {
 
   std::string exit = "cmdExit";
   std::string exitCaption = "E&xit";
-  std::string exitTip;
+  std::string exitTip = {};
   std::string endGame = "&End Game";
   std::string endGameTip = "Ends the game in progress";
   bool playMenuFollows = true;  ///< mnuPlay reads what cmdPlay reads
@@ -41,21 +41,21 @@ struct Vocabulary {
   std::string titleTimer = "Timer4";
   int titleInterval = 200;
   int splashPictures = 5;
-  std::string splashFace;  ///< empty for random cards
+  std::string splashFace = {};  ///< empty for random cards
 
   ui::Size openingSize{9540, 7200};
   ui::Size smallestSize{0, 0};          ///< 0 for none
   std::string maximizedWidth = "9540";  ///< what the settings file says while maximized
   std::string maximizedHeight = "7200";
 
-  std::vector<TimeEntry> timeEntries;
+  std::vector<TimeEntry> timeEntries = {};
   /// The usual numbers of the designs.
   std::vector<DeckEntry> deckEntries{{"mnuPalm", "&Palm Tree", Design::Palm, 1},
                                      {"mnuMagic", "&Magic Hands", Design::Magic, 2},
                                      {"mnuNight", "&Night Castle", Design::Night, 3},
                                      {"mnuHot", "&Hot Cards", Design::Hot, 4}};
   /// Entries that are disabled while a game runs, besides those of limit, scoring and music file.
-  std::vector<std::string> fixedInGame;
+  std::vector<std::string> fixedInGame = {};
 };
 
 /// One value that counts for default scoring.
