@@ -207,4 +207,60 @@ def every_game(display):
     check(len(settings) == len(GAMES), "every game has written its settings: %s" % settings)
 
 
-play([a_game_of_quindle, sounds, every_game])
+def windows_and_dialogs(display):
+    """A score enters its table, and each window of a game is opened, used and closed."""
+    home = tempfile.mkdtemp()
+    with open(os.path.join(home, "Quindle.Ini"), "w") as file:
+        file.write("[DrawTimer]\r\nFalse\r\n\r\n")
+    table = os.path.join(home, "Quindle Hi Score Table ES 11_90.Txt")
+    with open(table, "w") as file:
+        file.write("Corvane, 10, Jan 01 2000 12:00 am\r\n" * 10 + "\r\n")
+    program = Program(display, [PASTIMO], PASTIMO_HOME=home)
+    open_quindle(program)
+
+    def opened(window):
+        program.until(lambda: program.ask("windows").startswith(window), window)
+        time.sleep(0.3)
+
+    def alone():
+        program.until(lambda: program.ask("windows") == "frmQuindle frmSelect:hidden", "the game")
+        time.sleep(0.3)
+
+    program.keys("alt+h", "r")
+    opened("frmRules")
+    program.click("cmdOK")
+    alone()
+
+    program.keys("alt+p")
+    program.until(lambda: program.text("cmdPlay") != "&Play", "a game")
+    time.sleep(0.3)
+    for _ in range(2):
+        program.keys("alt+t")
+        time.sleep(6.5)
+    opened("frmHiScoreName")
+    program.type("Ann")
+    program.click("cmdOK")
+    opened("frmHighScores")
+    program.click("cmdDone")
+    program.until(lambda: program.text("cmdTakeScore") == "&Replay", "the end of the game")
+    with open(table) as file:
+        check(file.readline().startswith("Ann, 18000, "), "the score stands in the table")
+
+    time.sleep(2.5)
+    saved = os.path.join(home, "mine.qdl")
+    program.keys("alt+g", "v")
+    time.sleep(1.5)
+    program.type(saved)
+    program.keys("Return")
+    program.until(lambda: os.path.exists(saved), "the game is saved")
+    time.sleep(0.3)
+    program.keys("alt+g", "o")
+    time.sleep(1.5)
+    program.type(saved)
+    program.keys("Return")
+    time.sleep(1)
+    program.keys("Return")
+    program.until(lambda: program.text("cmdPlay") == "&End Game", "the saved game is played")
+
+
+play([a_game_of_quindle, sounds, every_game, windows_and_dialogs])
