@@ -2,6 +2,7 @@
 #include "core/cards/card.h"
 
 #include <array>
+#include <cstdint>
 
 #include "core/text/number.h"
 #include "core/text/text.h"
@@ -17,7 +18,7 @@ constexpr std::array<const char*, 4> suitNames = {"Spades", "Hearts", "Clubs", "
 }  // namespace
 
 int RankOf(std::string_view key) {
-  return ClampTo<int>(WholeIn(key));
+  return ClampTo<std::int16_t>(WholeIn(key));
 }
 
 char SuitOf(std::string_view key) {
