@@ -4,6 +4,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QEventLoop>
+#include <QMessageBox>
 #include <QProcess>
 #include <QScreen>
 #include <QTimer>
@@ -266,7 +267,11 @@ void QtPlatform::ShowModal(Window& window) {
   const PumpScope free(*this, Pump::Free);
   Opened(window, true);
   SyncAll();
-  view.WaitUntilClosed();
+  HoldUp(view);
+}
+
+void QtPlatform::HoldUp(QtWindow& modal) {
+  modal.WaitUntilClosed();
 }
 
 void QtPlatform::Hide(Window& window) {
@@ -307,7 +312,12 @@ Answer QtPlatform::MessageBox(Sign sign, Buttons buttons, const std::string& tit
                               const std::string& text) {
   SyncAll();
   const PumpScope free(*this, Pump::Free);
-  return AskBox(ActiveView(), sign, buttons, title, text);
+  return AskBox(ActiveView(), sign, buttons, title, text,
+                [this](QMessageBox& box) { return HoldUp(box); });
+}
+
+int QtPlatform::HoldUp(QMessageBox& box) {
+  return box.exec();
 }
 
 std::optional<std::string> QtPlatform::AskFile(const FileDialog& dialog) {
