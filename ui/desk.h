@@ -73,6 +73,8 @@ class Desk : public Platform {
 
  protected:
   void Opened(Window& window, bool modal);
+  /// A window in which nothing has the focus gives it to the first control that takes it.
+  void FocusFirst(Window& window);
   void WasHidden(Window& window);
   void Closed(Window& window);
   void RaiseToTop(Window& window);

@@ -25,13 +25,7 @@ bool HeadlessPlatform::MailStep(const std::string& operation, std::optional<std:
 
 void HeadlessPlatform::Open(Window& window, bool modal) {
   Opened(window, modal);
-  // A window system gives the focus to the first control that takes it.
-  if (!window.IsOpen() || window.IsHidden() || FocusOf(window)) return;
-  const auto& controls = window.Controls();
-  const auto first = std::find_if(controls.begin(), controls.end(), [](const Control* c) {
-    return TakesFocus(c->GetKind()) && c->Usable();
-  });
-  if (first != controls.end()) SetFocus(**first);
+  FocusFirst(window);
 }
 
 void HeadlessPlatform::Show(Window& window) {

@@ -257,6 +257,7 @@ QtWindow* QtPlatform::ActiveView() const {
 void QtPlatform::Show(Window& window) {
   Mirror(window).Open(false, nullptr);
   Opened(window, false);
+  FocusFirst(window);
   SettleSoon();
 }
 
@@ -266,6 +267,7 @@ void QtPlatform::ShowModal(Window& window) {
   view.Open(true, above);
   const PumpScope free(*this, Pump::Free);
   Opened(window, true);
+  FocusFirst(window);
   SyncAll();
   HoldUp(view);
 }

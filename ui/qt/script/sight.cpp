@@ -70,7 +70,7 @@ void SeeWidget(Comparison& c, const QWidget& widget) {
     c.Flag("checked", As<Check>(c).Checked(), check->isChecked());
   } else if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) {
     c.Text("text", As<Field>(c).Text(), line->text());
-    c.Text("selected", As<Field>(c).SelectedText(), line->selectedText());
+    if (line->hasFocus()) c.Text("selected", As<Field>(c).SelectedText(), line->selectedText());
     c.Flag("readonly", As<Field>(c).ReadOnly(), line->isReadOnly());
   } else if (const auto* text = qobject_cast<const QPlainTextEdit*>(&widget)) {
     c.Text("text", As<Field>(c).Text(), text->toPlainText());
