@@ -160,6 +160,8 @@ class GameWindow : public ui::Window, public TableOwner {
   /// Captions, tips and menus of a game that runs, or of an idle window.
   void ShowRunningCommands();
   void ShowIdleCommands();
+  void OfferNewGame();  ///< the same, but Play and Exit may still be off
+  void EnablePlayAndExit();
   void EnableFixedMenus(bool enabled);
   /// All of a game's commands, as while a round is scored they are off.
   void EnableCommands(bool enabled);
