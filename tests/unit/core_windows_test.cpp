@@ -1,5 +1,5 @@
-// The windows that all games share, on the headless platform: each game's own table and limits, what
-// the rules' text is made of, and a mail that fails at any of its steps.
+// The windows that all games share, on the headless platform: each game's own table and limits,
+// what the rules' text is made of, and a mail that fails at any of its steps.
 #include <cstdlib>
 #include <filesystem>
 
@@ -41,7 +41,11 @@ TEST(EachGameHasItsOwnTableUnderItsLimits) {
       {"cmdOstrel", "Ostrel Hi Score Table ", "30000", {30, 45, 60, 90}, 45},
       {"cmdPellow", "Pellow Hi Score Table ", "30000", {30, 45, 60, 75, 90, 105, 120}, 45},
       {"cmdVermoy", "Vermoy Hi Score Table ", "30000", {30, 45, 60, 75, 90, 105, 120}, 75},
-      {"cmdKestrane", "Kestrane Hi Score Table ", "50000", {60, 75, 90, 105, 120, 135, 150, 180}, 120},
+      {"cmdKestrane",
+       "Kestrane Hi Score Table ",
+       "50000",
+       {60, 75, 90, 105, 120, 135, 150, 180},
+       120},
       {"cmdPhrase", "Glimmard Hi Score Table ", "30000", {30, 45, 60, 75, 90, 105, 120}, 45},
       {"cmdFandrel", "Fandrel Hi Score Table ", "50000", {60, 75, 90, 105, 120}, 90},
   };
@@ -98,14 +102,15 @@ TEST(AMailThatFailsAtAnyStepCanBeSentAgain) {
   ui::Window& window = compose;
   window.Load();
   f.platform.Show(window);
-  for (const char* step : {"SignOn", "SessionID", "Compose", "RecipDisplayName", "RecipAddress",
-                           "AddressResolveUI", "ResolveName", "MsgSubject", "MsgNoteText", "Send",
-                           "SignOff"}) {
+  for (const char* step :
+       {"SignOn", "SessionID", "Compose", "RecipDisplayName", "RecipAddress", "AddressResolveUI",
+        "ResolveName", "MsgSubject", "MsgNoteText", "Send", "SignOff"}) {
     f.told.clear();
     f.platform.FailNext(std::string("mail ") + step);
     f.platform.UserClick(*window.Find("cmdSubmit"));
     CHECK(f.told[f.told.size() - 2].starts_with(std::string("mail ") + step));
-    CHECK(f.told.back().starts_with("box critical ok \"Quindle!\" \"Sorry, but there was an error"));
+    CHECK(
+        f.told.back().starts_with("box critical ok \"Quindle!\" \"Sorry, but there was an error"));
     CHECK_EQ(suite.shared.PlayerName, "Zoe");
   }
   f.platform.UserClick(*window.Find("cmdSubmit"));
