@@ -108,6 +108,8 @@ class GameWindow : public ui::Window, public TableOwner {
   virtual std::vector<ui::Timer*> GameTimers() { return {&Timer1}; }
   /// The game stands still while the window is minimized.
   virtual bool StopsWhenMinimized() const { return true; }
+  /// A round is being played, or paused: not while one is scored, nor at the end of a game.
+  virtual bool InRound() const;
   virtual ui::Button* TakeScoreButton() { return nullptr; }
   /// At the end of loading, with the settings read.
   virtual void Loaded() {}
