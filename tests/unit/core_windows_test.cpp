@@ -20,7 +20,7 @@ struct Fixture {
   core::Chance chance;
 
   Fixture() {
-    platform.Listen({[this](const std::string& line) { told.push_back(line); }, {}, {}});
+    platform.Stage().Listen({[this](const std::string& line) { told.push_back(line); }, {}, {}});
   }
 };
 
@@ -54,7 +54,7 @@ TEST(EachGameHasItsOwnTableUnderItsLimits) {
     CHECK(::mkdtemp(home.data()) != nullptr);
     Fixture f;
     core::Program program(f.platform, f.chance, games::AllGames(), home + "/", "");
-    f.platform.Start([&] { program.Start(); });
+    f.platform.Stage().Start([&] { program.Start(); });
     f.platform.UserClick(*f.platform.ActiveWindow()->Find(game.button));
     ui::Window& window = *f.platform.ActiveWindow();
     const auto mark = [&](int seconds) {
@@ -106,7 +106,7 @@ TEST(AMailThatFailsAtAnyStepCanBeSentAgain) {
        {"SignOn", "SessionID", "Compose", "RecipDisplayName", "RecipAddress", "AddressResolveUI",
         "ResolveName", "MsgSubject", "MsgNoteText", "Send", "SignOff"}) {
     f.told.clear();
-    f.platform.FailNext(std::string("mail ") + step);
+    f.platform.Stage().FailNext(std::string("mail ") + step);
     f.platform.UserClick(*window.Find("cmdSubmit"));
     CHECK(f.told[f.told.size() - 2].starts_with(std::string("mail ") + step));
     CHECK(
