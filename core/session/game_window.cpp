@@ -129,7 +129,6 @@ void GameWindow::PlaceFrame(ui::Size inner) {
 }
 
 bool GameWindow::QueryClose() {
-  if (shared.ScoringBusy) return false;
   if (GameRunning()) {
     const bool paused = PauseForDialog();
     if (suite.Ask("You have a game in progress. Are you sure you want to quit now?")) return true;

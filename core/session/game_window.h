@@ -257,8 +257,6 @@ class GameWindow : public ui::Window, public TableOwner {
   void PlaceFrame(ui::Size inner);
   ui::Handler HandlerOf(Command command);
   void Bind(std::vector<MenuRow>& rows);
-  void ClearTimeCheck();
-  void ClearDeckChecks();
 
   void Timer2_Timer() { Clock.Flash(); }
   void WallClock_Timer();
