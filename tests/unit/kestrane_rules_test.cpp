@@ -20,20 +20,23 @@ struct Round {
     deck.Assign(std::move(inOrder));
     rules.Deal();
   }
-  Answer Up() { return rules.Click({Area::UpCards, Front}); }
-  Answer Column(int slot) { return rules.Click({Area::Field, slot}); }
-  Answer Store(int spot) { return rules.Click({Area::Storage, spot}); }
-  Made Lay(int column) {
-    CHECK(Up() == Answer::Select);
-    CHECK(Column(column) == Answer::Move);
-    return rules.CheckColumn(column % Columns);
+  // Clicks on up cards (u), the field (f) and storage (s): refused, select, cancel or move.
+  std::string Clicks(const std::string& spots) {
+    std::string answers;
+    for (std::size_t i = 0; i < spots.size(); i += 2) {
+      const Area area = spots[i] == 'u'   ? Area::UpCards
+                        : spots[i] == 'f' ? Area::Field
+                                          : Area::Storage;
+      answers += "rscm"[static_cast<int>(rules.Click({area, spots[i + 1] - '0'}))];
+    }
+    return answers;
+  }
+  Made Lay(int slot) {
+    CHECK_EQ(Clicks("u2f" + std::to_string(slot)), "sm");
+    return rules.CheckColumn(slot % Columns);
   }
   std::string Field(int slot) const { return core::Trimmed(rules.KeyAt({Area::Field, slot})); }
   std::string Stored(int spot) const { return core::Trimmed(rules.KeyAt({Area::Storage, spot})); }
-  Keys UpCards() const {
-    return {rules.KeyAt({Area::UpCards, 0}), rules.KeyAt({Area::UpCards, 1}),
-            rules.KeyAt({Area::UpCards, 2})};
-  }
 
   core::Deck deck;
   Rules rules{deck};
@@ -42,12 +45,9 @@ struct Round {
 }  // namespace
 
 TEST(ColumnsClearForTripsAndRunsInTheOrderInWhichTheCardsLie) {
-  const std::vector<int> circle = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 1};
-  std::set<std::vector<int>> runs;
-  for (std::size_t i = 0; i + 3 <= circle.size(); ++i) {
-    runs.insert({circle[i], circle[i + 1], circle[i + 2]});
-    runs.insert({circle[i + 2], circle[i + 1], circle[i]});
-  }
+  const auto rises = [](int a, int b, int c) {
+    return b == a % 13 + 1 && c == b % 13 + 1 && b != 1;
+  };
   for (int code = 0; code < 13 * 13 * 13 * 4; ++code) {
     const std::vector<int> ranks = {1 + code / 4 % 13, 1 + code / 52 % 13, 1 + code / 676};
     const std::string suits = std::vector<std::string>{"SSS", "HHD", "CDD", "HCH"}[code % 4u];
@@ -57,72 +57,46 @@ TEST(ColumnsClearForTripsAndRunsInTheOrderInWhichTheCardsLie) {
     const int column = code % 4;
     CHECK(round.Lay(column) == Made::Nothing && round.Lay(column) == Made::Nothing);
     const bool trip = ranks[0] == ranks[1] && ranks[1] == ranks[2];
-    const bool run = runs.contains(ranks);
-    const Made expected = trip   ? Made::Trip
-                          : !run ? Made::Nothing
-                                 : (suits == "SSS" ? Made::Flush : Made::Run);
-    CHECK(round.Lay(column) == expected);
+    const bool run = rises(ranks[0], ranks[1], ranks[2]) || rises(ranks[2], ranks[1], ranks[0]);
+    const Made made = run ? (suits == "SSS" ? Made::Flush : Made::Run) : Made::Nothing;
+    CHECK(round.Lay(column) == (trip ? Made::Trip : made));
     CHECK(round.rules.TripCount == trip && round.rules.RunCount == run);
-    for (int slot = column; slot < Slots; slot += Columns) {
-      CHECK_EQ(round.Field(slot).empty(), expected != Made::Nothing);
-    }
+    CHECK_EQ(round.Field(column).empty(), trip || run);
   }
 }
 
 TEST(AClickSelectsMovesCancelsOrIsRefused) {
   Round round({"5S", "7H", "6D", "1C", "2C", "3C", "4C"});
-  CHECK_EQ(round.UpCards(), (Keys{"6D", "7H", "5S"}));
-  CHECK(round.rules.Click({Area::UpCards, 1}) == Answer::Refused);
-  CHECK(round.Column(2) == Answer::Refused && round.Store(0) == Answer::Refused);
-
-  // The up card: selected, cancelled, moved to a column that fills from the top.
-  CHECK(round.Up() == Answer::Select);
-  CHECK(round.rules.Click({Area::UpCards, 0}) == Answer::Refused && round.rules.CardSelected());
-  CHECK(round.Up() == Answer::Cancel && !round.rules.CardSelected());
-  for (int slot : {9, 1, 5}) CHECK(round.Lay(slot) == Made::Nothing);
+  // A column fills from the top, wherever it is hit; only the front up card can be taken.
+  CHECK_EQ(round.Clicks("u1f2u2f9u2f1u2f5"), "rrsmsmsm");
   CHECK(round.Field(1) == "5S" && round.Field(5) == "7H" && round.Field(9) == "6D");
-
-  // 5-7-6 stays; only its top card can be taken, wherever the column is hit.
-  CHECK(round.Up() == Answer::Select);
-  CHECK(round.Column(5) == Answer::Refused && round.rules.CardSelected());
-  CHECK(round.Up() == Answer::Cancel && round.Column(1) == Answer::Select);
-  CHECK(round.rules.SelectedIndex == 9 && round.Column(5) == Answer::Cancel);
-  CHECK(round.Column(5) == Answer::Select && round.Store(1) == Answer::Move);
+  CHECK_EQ(round.Clicks("u2u0f5u2"), "srrc");
+  CHECK(!round.rules.CardSelected());
+  // Only the column's top card can be taken.
+  CHECK_EQ(round.Clicks("f1f5f5s1"), "scsm");
   CHECK(round.Stored(1) == "6D" && round.Field(9).empty());
-
   // Storage: shuffled, refused to another card, and back to the field, where it makes a run.
-  CHECK(round.Store(1) == Answer::Select && round.Store(2) == Answer::Move);
-  CHECK(round.Stored(1).empty() && round.Stored(2) == "6D");
-  CHECK(round.Up() == Answer::Select && round.Store(2) == Answer::Refused);
-  CHECK(round.Store(0) == Answer::Move && round.rules.DeckIndex == 7);
-  CHECK(round.Column(1) == Answer::Select && round.Store(1) == Answer::Move);
-  CHECK(round.Store(2) == Answer::Select && round.Column(1) == Answer::Move);
-  CHECK(round.Store(1) == Answer::Select && round.Column(9) == Answer::Move);
+  CHECK_EQ(round.Clicks("s1s2u2s2s0"), "smsrm");
+  CHECK(round.Stored(1).empty() && round.Stored(2) == "6D" && round.rules.DeckIndex == 7);
+  CHECK_EQ(round.Clicks("f1s1s2f1s1f9"), "smsmsm");
   CHECK(round.rules.CheckColumn(1) == Made::Run);
 }
 
-TEST(AWholeDeckIsPlayedIntoTripsAndRuns) {
-  Keys keys;
-  for (int rank = 1; rank <= 13; ++rank) {
-    for (const char suit : std::string("SHC")) keys.push_back(core::KeyFromNumber(rank, suit));
-  }
-  for (int rank = 13; rank >= 1; --rank) keys.push_back(core::KeyFromNumber(rank, 'D'));
-  Round round(keys);
+TEST(TheDeckRunsOutAndTheThirdRoundHasToBeEarned) {
+  Round round({});
+  Rules& rules = round.rules;
   std::string looks;
   for (int played = 0; played < 52; ++played) {
-    CHECK_EQ(round.rules.CardsRemaining(), 52 - played);
-    looks += round.rules.StackPicture()[0];
-    const auto next = keys.begin() + played;
-    Keys up(next, std::min(next + 3, keys.end()));
-    up.resize(3);
-    CHECK_EQ(round.UpCards(), (Keys{up[2], up[1], up[0]}));
-    CHECK(!round.rules.DeckUsedUp());
-    const bool third = played % 3 == 2;
-    CHECK(round.Lay(2) == (!third ? Made::Nothing : played < 39 ? Made::Trip : Made::Flush));
+    CHECK_EQ(rules.CardsRemaining(), 52 - played);
+    looks += rules.StackPicture()[0];
+    round.Lay(0);
   }
   CHECK_EQ(looks, std::string(17, 'F') + std::string(16, 'H') + std::string(16, 'B') + "EEE");
-  CHECK(round.rules.DeckUsedUp() && round.Up() == Answer::Refused);
-  CHECK(round.rules.TripCount == 13 && round.rules.RunCount == 4);
+  CHECK(rules.DeckUsedUp() && round.Clicks("u2") == "r" && rules.TripCount == 17);
+  rules.RoundNumber = 2;
+  CHECK(!rules.EarnsNextRound(99999, 100000) && rules.EarnsNextRound(100000, 100000));
+  rules.RoundNumber = 3;
+  CHECK(!rules.EarnsNextRound(999999, 100000));
 }
 
 TEST(NoMoveIsLeftWhenStorageAndColumnsAreFullAndWhatIsLeftGoesFromTheEnd) {
@@ -130,45 +104,27 @@ TEST(NoMoveIsLeftWhenStorageAndColumnsAreFullAndWhatIsLeftGoesFromTheEnd) {
   for (int i = 0; i < 15; ++i) keys.push_back(core::KeyFromNumber(1 + i * 2 % 13, 'S'));
   Round round(keys);
   for (int card = 0; card < Slots; ++card) CHECK(round.Lay(card / 3) == Made::Nothing);
-  for (int spot : {2, 0, 1}) {
+  for (const char* clicks : {"u2s2", "u2s0", "u2s1"}) {
     CHECK(!round.rules.NoMoveLeft());
-    CHECK(round.Up() == Answer::Select && round.Store(spot) == Answer::Move);
+    CHECK_EQ(round.Clicks(clicks), "sm");
   }
   CHECK(round.rules.NoMoveLeft());
-  CHECK(round.Store(1) == Answer::Select);  // a selected card is taken off like any other
-  for (int i = Slots + StorageSpots; i > 0; --i) {
-    const Spot expected =
-        i > StorageSpots ? Spot{Area::Field, i - StorageSpots - 1} : Spot{Area::Storage, i - 1};
-    CHECK(round.rules.NextLeftOver() == expected);
-    round.rules.TakeOff(expected);
-  }
-  CHECK(round.rules.NextLeftOver() == Spot{} && !round.rules.CardSelected());
-}
-
-TEST(TheThirdRoundHasToBeEarned) {
-  Round round({});
-  Rules& rules = round.rules;
-  CHECK(rules.EarnsNextRound(-5000, 100000));
-  ++rules.RoundNumber;
-  CHECK(!rules.EarnsNextRound(99999, 100000) && rules.EarnsNextRound(100000, 100000));
-  ++rules.RoundNumber;
-  CHECK(!rules.EarnsNextRound(999999, 100000));
+  CHECK((round.rules.NextLeftOver() == Spot{Area::Field, Slots - 1}));
+  CHECK_EQ(round.Clicks("s1"), "s");  // a selected card is taken off like any other
+  round.rules.TakeOff({Area::Storage, 1});
+  CHECK(!round.rules.CardSelected());
 }
 
 TEST(AnyOrderOfClicksKeepsTheCards) {
-  unsigned seed = 1;
-  const auto below = [&seed](std::size_t n) {
-    seed = seed * 1664525u + 1013904223u;
-    return (seed >> 16) % n;
-  };
-  core::Chance chance;
+  core::Chance chance([] { return 7; });
   for (int game = 0; game < 300; ++game) {
     Round round({});
     CHECK(round.deck.CreateDeck() && round.deck.ShuffleDeck(chance));
     round.rules.Deal();
     int cleared = 0;
     for (int step = 0; step < 400; ++step) {
-      round.rules.Click(AllSpots[below(AllSpots.size())]);
+      const int spot = core::RandomBelow(chance, std::size(AllSpots));
+      round.rules.Click(AllSpots[spot]);
       for (int column = 0; column < Columns; ++column) {
         if (round.rules.CheckColumn(column) != Made::Nothing) cleared += 3;
       }
