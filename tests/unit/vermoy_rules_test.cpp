@@ -22,14 +22,13 @@ std::string HandByTheBook(const Keys& line) {
                                              "910111213", "110111213"};
   std::map<char, int> suits;
   std::map<int, int> ranks;
-  std::vector<int> sorted;
+  std::multiset<int> sorted;
   for (const std::string& key : line) {
-    sorted.push_back(std::stoi(key));
+    sorted.insert(std::stoi(key));
     if (key == "0") continue;
     ++suits[key.back()];
-    ++ranks[sorted.back()];
+    ++ranks[std::stoi(key)];
   }
-  std::sort(sorted.begin(), sorted.end());
   std::string run;
   for (int rank : sorted) run += std::to_string(rank);
   std::multiset<int> groups;
@@ -54,28 +53,20 @@ std::string HandOf(const Keys& keys) {
   return TextOf(EvaluateHand(line));
 }
 
-Keys AllKeys() {
+core::Deck DeckOf(const Keys& first) {
   core::Deck deck;
   deck.CreateDeck();
-  return deck.Keys();
-}
-
-core::Deck DeckOf(Keys first) {
-  for (const std::string& key : AllKeys()) {
-    if (first.size() < FullDeck) first.push_back(key);
-  }
-  core::Deck deck;
-  deck.Assign(std::move(first));
+  for (std::size_t i = 0; i < first.size(); ++i) deck.Assign(static_cast<int>(i) + 1, first[i]);
   return deck;
 }
 
 }  // namespace
 
 TEST(HandsAgreeWithASecondEvaluator) {
-  Keys cards;
-  for (const std::string& key : AllKeys()) cards.push_back(core::Trimmed(key));
+  Keys cards = DeckOf({}).Keys();
+  for (std::string& key : cards) key = core::Trimmed(key);
   std::mt19937 random(20240917);
-  std::map<std::string, int> seen;
+  std::set<std::string> seen;
   for (int i = 0; i < 150000; ++i) {
     // Few ranks or one suit in turn, so that the rare hands come up often.
     Keys pool = cards;
@@ -84,42 +75,23 @@ TEST(HandsAgreeWithASecondEvaluator) {
     if (i % 3 == 2) std::erase_if(pool, [&](const auto& key) { return std::stoi(key) % 4 != 1; });
     Keys line(pool.begin(), pool.begin() + 5);
     // A third of the lines are unfinished.
-    if (i >= 100000) {
-      for (std::string& key : line) {
-        if (random() % 3 == 0) key = "0";
-      }
+    for (std::string& key : line) {
+      if (i >= 100000 && random() % 3 == 0) key = "0";
     }
-    const std::string expected = HandByTheBook(line);
-    ++seen[expected];
-    const std::string actual = HandOf(line);
-    if (actual == expected) continue;
-    CHECK_EQ(line, Keys{});
-    CHECK_EQ(actual, expected);
+    CHECK_EQ(HandOf(line), HandByTheBook(line));
+    seen.insert(HandOf(line));
   }
   CHECK_EQ(seen.size(), HandCount);
 }
 
 TEST(HandsAtTheirLimits) {
   const std::vector<std::pair<Keys, std::string>> cases = {
-      {{"2S", "2H", "0", "0", "0"}, "1 Pair"},
       {{" 13S", "", "13H", " 13C", "0"}, "3 of a kind"},
-      {{"4S", "4H", "9C", "9D", "9S"}, "Full House"},
-      {{"4S", "4H", "9C", "9D", "2S"}, "2 Pair"},
-      {{"5S", "3H", "1C", "4D", "2S"}, "Straight"},
-      {{"5D", "3D", "1D", "4D", "2D"}, "St. Flush"},
-      {{"13D", "10D", "1D", "11D", "12D"}, "Royal Flush"},
-      {{"13D", "10D", "1D", "11D", "12S"}, "Straight"},
-      {{"9D", "10D", "13D", "11D", "12D"}, "St. Flush"},
-      {{"11D", "12D", "13D", "1D", "2S"}, "Nothing"},
-      {{"2H", "4H", "6H", "8H", "13H"}, "Flush"},
-      {{"2H", "4H", "6H", "8H", "0"}, "Nothing"},
-      {{"2H", "3H", "4H", "5H", "0"}, "Nothing"},
       // A staged deck can hold anything.
       {{"9H", "9H", "9H", "9H", "9H"}, "Flush"},
       {{"9H", "9H", "9H", "2H", "2H"}, "Full House"},
-      {{"14S", "-1S", "99999999999S", "xS", "S"}, "Flush"},
-      {{"1", "2", "3", "4", "5"}, "Straight"},
-      {{"10H ", "11H", " 12H ", "13H", "1H"}, "Royal Flush"}};
+      {{" 14S ", "-1S", "99999999999S", "xS", "S"}, "Flush"},
+      {{"1", "2", "3", "4", "5"}, "Straight"}};
   for (const auto& [line, hand] : cases) CHECK_EQ(HandOf(line), hand);
 }
 
@@ -128,34 +100,20 @@ TEST(AGridPaysWhatStands) {
   Rules rules(values);
   CHECK(!rules.Place(0).legal);  // before the first deal
   CHECK(rules.Deal(DeckOf({"13S", "13H", "13C", "2S", "2H", "5D"})) == Drawn::Sounding);
-  CHECK_EQ(rules.CardsRemaining(), 51);
-  CHECK_EQ(rules.HoleCard(), "13S");
   CHECK(!rules.IsLegal(-1) && !rules.IsLegal(Cells) && rules.IsLegal(24));
 
-  // A pair in a row of two, three of a kind with a blank; a made hand takes the card's sound.
-  CHECK(rules.Place(0).drawn == Drawn::Sounding);
-  Placed placed = rules.Place(1);
-  CHECK_EQ(placed.handsMade, 1);
-  CHECK(placed.drawn == Drawn::Silent);
-  CHECK_EQ(TextOf(rules.RowHand(1)), "1 Pair");
-  CHECK_EQ(rules.RoundPoints(), 50);
-  CHECK_EQ(rules.Place(3).handsMade, 1);
-  CHECK_EQ(TextOf(rules.RowHand(1)), "3 of a kind");
-  CHECK_EQ(rules.RoundPoints(), 80);
-
-  // The same hand again is no news; the card on the corner counts in its row and its column.
-  placed = rules.Place(10);
-  CHECK(placed.handsMade == 0 && placed.drawn == Drawn::Sounding);
-  CHECK_EQ(rules.Place(0).handsMade, 2);  // the row falls to a pair, the column rises to one
-  CHECK_EQ(rules.OverWritesLeft(), 2);
-  CHECK_EQ(TextOf(rules.RowHand(1)), "1 Pair");
-  CHECK_EQ(TextOf(rules.ColumnHand(1)), "1 Pair");
-  CHECK_EQ(rules.RoundPoints(), 100);
-  CHECK_EQ(rules.Place(0).handsMade, 0);
-  CHECK_EQ(rules.RoundPoints(), 50);  // an overwrite took the column's hand away
-
-  rules.Reset();
-  CHECK(!rules.Place(0).legal);
+  // A made hand takes the card's sound. The same hand again is no news; the card on the corner
+  // counts in its row and its column; an overwrite can take a hand away.
+  std::string told;
+  for (const int cell : {0, 1, 3, 10, 0, 0}) {
+    const Placed placed = rules.Place(cell);
+    told += std::to_string(placed.handsMade) + (placed.drawn == Drawn::Silent ? " silent " : " ");
+    told += std::to_string(rules.RoundPoints()) + " " + TextOf(rules.RowHand(1)) + ", " +
+            TextOf(rules.ColumnHand(1)) + "; ";
+  }
+  CHECK_EQ(told,
+           "0 0 Nothing, Nothing; 1 silent 50 1 Pair, Nothing; 1 silent 80 3 of a kind, Nothing; "
+           "0 80 3 of a kind, Nothing; 2 silent 100 1 Pair, 1 Pair; 0 50 1 Pair, Nothing; ");
 }
 
 TEST(OverwritesAtTheirLimitsAndBeyond) {
@@ -163,27 +121,23 @@ TEST(OverwritesAtTheirLimitsAndBeyond) {
   values.OverWrites = 26;
   Rules rules(values);
   rules.Deal(DeckOf({}));
-  std::map<int, std::string> stacks;
-  for (int i = 0; i < 27; ++i) {
-    CHECK(rules.Place(0).legal);
-    stacks[rules.CardsRemaining()] = rules.StackPicture();
-  }
-  CHECK(!rules.Place(0).legal);
+  for (int i = 0; i < 27; ++i) CHECK(rules.Place(0).legal);
+  CHECK(!rules.Place(0).legal && rules.OverWritesLeft() == 0);
   for (int i = 1; i < Cells; ++i) CHECK(rules.Place(i).drawn != Drawn::Nothing);
-  CHECK(rules.GridIsFull());
-  CHECK_EQ(rules.CardsRemaining(), 0);
-  CHECK_EQ(rules.StackPicture(), "EMPTY");
-  CHECK(stacks[26] == "FULL" && stacks[25] == "HALF");
+  CHECK(rules.GridIsFull() && rules.CardsRemaining() == 0);
 
   // A settings file can allow more than the deck can feed: then a cell is covered with nothing.
   values.OverWrites = 1000;
   rules.Reset();
   rules.Deal(DeckOf({}));
-  for (int i = 0; i < 51; ++i) CHECK(rules.Place(0).drawn != Drawn::Nothing);
-  CHECK(rules.Place(0).drawn == Drawn::Nothing);
-  CHECK(rules.HoleCard().empty() && !rules.IsLegal(1));
-  CHECK(rules.Place(0).legal);
-  CHECK(rules.GridCard(0).empty() && !rules.IsLegal(0));
+  std::string looks;
+  for (int i = 0; i < 51; ++i) {
+    CHECK(rules.Place(0).drawn != Drawn::Nothing);
+    looks += rules.StackPicture()[0];
+  }
+  CHECK_EQ(looks, std::string(25, 'F') + std::string(13, 'H') + std::string(12, 'B') + "E");
+  CHECK(rules.Place(0).drawn == Drawn::Nothing && rules.HoleCard().empty() && !rules.IsLegal(1));
+  CHECK(rules.Place(0).legal && rules.GridCard(0).empty() && !rules.IsLegal(0));
 
   // Values from a file may be anything, the worth of a grid stays within its width.
   values.Pair = 2147483647;
