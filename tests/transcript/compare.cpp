@@ -10,36 +10,13 @@ const std::string Any = "...";
 
 constexpr int Whole = 100;  // the cost of a line too many or too few
 
-/// What it costs to take one line for another: less the more they begin and end alike.
+/// What it costs to take one line for another: less the longer they are alike from their begin.
 int CostOf(const std::string& expected, const std::string& came) {
   if (expected == came) return 0;
   const std::size_t shorter = std::min(expected.size(), came.size());
-  std::size_t alike = 0;
-  while (alike < shorter && expected[alike] == came[alike]) ++alike;
-  std::size_t end = 0;
-  while (alike + end < shorter && expected.rbegin()[end] == came.rbegin()[end]) ++end;
-  const auto longer = static_cast<int>(std::max(expected.size(), came.size()));
-  return Whole - Whole / 2 * static_cast<int>(alike + end) / longer;
-}
-
-/// Whether they are the same, found without looking for the cheapest way.
-bool Matches(const Lines& expected, const Lines& came) {
-  std::size_t e = 0, c = 0, behindAny = 0, retry = 0;
-  while (c < came.size() || e < expected.size()) {
-    if (e < expected.size() && expected[e] == Any) {
-      behindAny = ++e;
-      retry = c;
-    } else if (e < expected.size() && c < came.size() && expected[e] == came[c]) {
-      ++e;
-      ++c;
-    } else if (behindAny > 0 && retry < came.size()) {
-      e = behindAny;
-      c = ++retry;
-    } else {
-      return false;
-    }
-  }
-  return true;
+  const auto differ = std::mismatch(expected.begin(), expected.begin() + shorter, came.begin());
+  const auto longer = static_cast<std::ptrdiff_t>(std::max(expected.size(), came.size()));
+  return Whole - static_cast<int>(Whole / 2 * (differ.first - expected.begin()) / longer);
 }
 
 /// One step on the way, by how many expected lines and how many that came it takes.
@@ -92,17 +69,17 @@ class Ways {
 }  // namespace
 
 Comparison Compare(const Lines& expected, const Lines& came) {
-  if (Matches(expected, came)) return {true, {}, expected};
   Ways ways(expected, came);
   Comparison result;
+  result.same = ways.At(0, 0).cost == 0;
   for (std::size_t e = 0, c = 0; e < expected.size() || c < came.size();) {
     const Step step = ways.At(e, c);
     const bool any = ways.IsAny(e);
-    const bool equal = !any && step.takesExpected && step.takesCame && expected[e] == came[c];
+    const bool both = step.takesExpected && step.takesCame;
     if (any && step.takesExpected) {
       result.difference.push_back("  " + Any);
       result.updated.push_back(Any);
-    } else if (equal) {
+    } else if (both && expected[e] == came[c]) {
       result.difference.push_back("  " + came[c]);
       result.updated.push_back(came[c]);
     } else if (!any) {
@@ -117,30 +94,15 @@ Comparison Compare(const Lines& expected, const Lines& came) {
 }
 
 Comparison CompareAnswer(const Lines& expected, const Lines& came) {
-  const auto isLast = [](const std::string& line) {
-    return line == "ok" || line.starts_with("no:") || line == "(ended)";
-  };
-  Lines body = expected, cameBody = came;
-  std::string last = "ok", cameLast;
-  if (!body.empty() && isLast(body.back())) {
-    last = body.back();
-    body.pop_back();
-  }
-  if (!cameBody.empty()) {
-    cameLast = cameBody.back();
-    cameBody.pop_back();
-  }
-  Comparison result = Compare(body, cameBody);
-  if (last == cameLast || (last == "no:" && cameLast.starts_with("no:"))) {
-    result.difference.push_back("  " + cameLast);
-    const bool written = expected.size() > body.size();
-    if (written || last != "ok") result.updated.push_back(last);
-  } else {
-    result.same = false;
-    result.difference.push_back("- " + last);
-    result.difference.push_back("+ " + cameLast);
-    if (cameLast != "ok") result.updated.push_back(cameLast);
-  }
+  Lines meant = expected;
+  const std::string last = expected.empty() ? "" : expected.back();
+  const bool written = last == "ok" || last.starts_with("no:") || last == "(ended)";
+  if (!written) meant.push_back("ok");
+  const bool anyReason = last == "no:" && came.back().starts_with("no:");
+  if (anyReason) meant.back() = came.back();
+  Comparison result = Compare(meant, came);
+  if (anyReason) result.updated.back() = "no:";
+  if (!written && came.back() == "ok") result.updated.pop_back();
   return result;
 }
 

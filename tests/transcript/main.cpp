@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -41,45 +42,27 @@ class TemporaryHome {
   std::string path;
 };
 
-/// The words of a command line; those between double quotes are one.
-std::vector<std::string> SplitArgs(const std::string& text) {
-  std::vector<std::string> words;
-  bool quoted = false, inWord = false;
-  for (const char c : text) {
-    if (c == ' ' && !quoted) {
-      inWord = false;
-      continue;
-    }
-    if (!inWord) words.emplace_back();
-    inWord = true;
-    c == '"' ? void(quoted = !quoted) : words.back().push_back(c);
-  }
-  return words;
-}
-
-/// The lines of a file with CR LF; single ones of the two are shown.
+/// The lines of a file; what is no CR LF of its own is shown.
 Lines LinesOf(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) return {"(no such file)"};
-  std::stringstream buffer;
-  buffer << file.rdbuf();
-  const std::string text = buffer.str();
   Lines lines;
-  std::size_t at = 0;
-  for (auto end = text.find("\r\n"); end != std::string::npos; end = text.find("\r\n", at)) {
-    lines.push_back(text.substr(at, end - at));
-    at = end + 2;
+  for (std::string line; std::getline(file, line);) {
+    if (file.eof() || !line.ends_with('\r')) {
+      line += file.eof() ? "(no line end)" : "(no CR)";
+    } else {
+      line.pop_back();
+    }
+    lines.push_back(Replaced(line, "\r", "\\r"));
   }
-  if (at < text.size()) lines.push_back(text.substr(at) + "(no line end)");
-  for (std::string& line : lines) line = Replaced(Replaced(line, "\r", "\\r"), "\n", "\\n");
   return lines;
 }
 
 /// One script at play.
 class Player {
  public:
-  Player(std::string program, std::string path)
-      : program_(std::move(program)), path_(std::move(path)) {}
+  Player(const std::string& program, std::string path)
+      : path_(std::move(path)), words_{program, "--home", home_.path} {}
 
   /// True if all was as expected. With `update`, the file is rewritten where it was not.
   bool Play(bool update) {
@@ -103,8 +86,7 @@ class Player {
       case Part::Kind::Note:
         return;
       case Part::Kind::Args:
-        for (const std::string& word : SplitArgs(Meant(part.text))) args_.push_back(word);
-        return;
+        return TakeArgs(Meant(part.text));
       case Part::Kind::File:
         return WriteFile(part);
       case Part::Kind::ExpectFile:
@@ -116,12 +98,18 @@ class Player {
         for (int times = std::stoi(part.text); times > 0; --times) PlayLines(part);
         return;
       case Part::Kind::Start:
-        Start();
+        process_ = std::make_unique<Process>(words_);
         break;
       case Part::Kind::Command:
         process_->Send(Meant(part.text));
     }
     Judge(part, CompareAnswer(part.expected, Told(process_->ReadAnswer())));
+  }
+
+  /// Words between double quotes are one.
+  void TakeArgs(const std::string& text) {
+    std::istringstream in(text);
+    for (std::string word; in >> std::quoted(word);) words_.push_back(word);
   }
 
   void PlayLines(const Part& part) {
@@ -139,12 +127,6 @@ class Player {
     for (const std::string& line : part.expected) file << Meant(line) << "\r\n";
   }
 
-  void Start() {
-    std::vector<std::string> words{program_, "--home", home_.path};
-    words.insert(words.end(), args_.begin(), args_.end());
-    process_ = std::make_unique<Process>(words);
-  }
-
   void Judge(Part& part, const Comparison& comparison) {
     if (comparison.same) return;
     Complain(part, comparison.difference);
@@ -159,10 +141,9 @@ class Player {
     for (const std::string& line : difference) std::cout << "    " << line << '\n';
   }
 
-  std::string program_;
   std::string path_;
   TemporaryHome home_;
-  std::vector<std::string> args_;
+  std::vector<std::string> words_;  ///< the command line
   std::unique_ptr<Process> process_;
   bool failed_ = false;
 };
@@ -173,17 +154,16 @@ int Main(std::vector<std::string> words) {
     std::cerr << "usage: run_transcript [--update] PROGRAM SCRIPT...\n";
     return 2;
   }
-  int passed = 0, failed = 0;
+  std::size_t failed = 0;
   for (std::size_t i = 1; i < words.size(); ++i) {
-    bool good = false;
     try {
-      good = Player(words[0], words[i]).Play(update);
+      failed += !Player(words[0], words[i]).Play(update);
     } catch (const std::exception& error) {
       std::cout << error.what() << '\n';
+      ++failed;
     }
-    ++(good ? passed : failed);
   }
-  std::cout << passed << " passed, " << failed << " failed" << std::endl;
+  std::cout << words.size() - 1 - failed << " passed, " << failed << " failed" << std::endl;
   return failed == 0 ? 0 : 1;
 }
 

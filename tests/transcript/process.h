@@ -1,6 +1,7 @@
 // The program under test, spoken to through two pipes.
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -17,20 +18,18 @@ class Process {
 
   void Send(const std::string& line);
   /// The lines up to `ok` or `no:`, that one included; the last one is `(ended)` if the program is
-  /// gone, `(no answer)` if it has said nothing for a minute.
+  /// gone. One that hangs is killed after some minutes.
   std::vector<std::string> ReadAnswer();
   /// Ends its input. What is wrong with its end is returned, empty if nothing is: it must say
   /// nothing more, and end with status 0.
   std::string Finish();
 
  private:
-  enum class Got { Line, End, Nothing };
-  Got ReadLine(std::string& line);
+  bool ReadLine(std::string& line);
 
   pid_t pid_ = -1;
-  int in_ = -1;
-  int out_ = -1;
-  std::string pending_;
+  std::FILE* in_ = nullptr;
+  std::FILE* out_ = nullptr;
 };
 
 }  // namespace transcript

@@ -57,9 +57,7 @@ class Reader {
 
   /// What comes from here on needs a program that runs.
   void NeedStart() {
-    const bool started = std::any_of(parts_.begin(), parts_.end(),
-                                     [](const Part& part) { return part.kind == Kind::Start; });
-    if (!started) Begin(Kind::Start, "");
+    if (!HasStarted()) Begin(Kind::Start, "");
   }
 
   void TakeFileLine(const std::string& line) {
