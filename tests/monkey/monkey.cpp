@@ -38,6 +38,9 @@ bool Monkey::Play(std::int64_t steps) {
   steps_ = steps;
   while (!Enough()) PlayOneRun();
   CheckFiles();
+  for (const auto& [window, visits] : visits_)
+    std::cout << "  " << window << ": " << visits << '\n';
+  if (steps >= 50000 && visits_.size() < 20) Fail("it never came to many windows");
   return !failed_;
 }
 
@@ -45,7 +48,7 @@ void Monkey::PlayOneRun() {
   Run run(*this);
   run_ = &run;
   run.stage.Listen({[](const std::string&) {},
-                       [this](const std::function<bool()>& over) { Converse(over); }, [] {}});
+                    [this](const std::function<bool()>& over) { Converse(over); }, [] {}});
   run.stage.Start([&run] { run.program.Start(); });
   while (!Enough() && !run.stage.Ended()) {
     Step();
@@ -60,8 +63,7 @@ void Monkey::Converse(const std::function<bool()>& over) {
   ++depth_;
   while (!over()) {
     if (!run_ || Enough() || depth_ > DeepestTalk || Below(3) == 0) {
-      const auto standing =
-          run_ ? run_->stage.AllStanding() : std::vector<ui::script::Standing>();
+      const auto standing = run_ ? run_->stage.AllStanding() : std::vector<ui::script::Standing>();
       if (standing.empty()) break;
       Answer(standing.front());
     } else {
@@ -75,23 +77,16 @@ void Monkey::Answer(const ui::script::Standing& standing) {
   using What = ui::script::Standing::What;
   ++done_;
   if (standing.what == What::ModalWindow) {
-    if (Enough() || depth_ > DeepestTalk) {
-      run_->platform.Close(*standing.window);
-    } else {
-      Step();
-    }
+    const bool close = Enough() || depth_ > DeepestTalk;
+    close ? run_->platform.Close(*standing.window) : Step();
   } else if (standing.what == What::FileDialog) {
-    if (Below(2)) {
-      run_->stage.PlayerGivesPath(AnyPath());
-    } else {
-      run_->stage.PlayerGivesPath(std::nullopt);
-    }
+    run_->stage.PlayerGivesPath(Below(2) ? std::optional(AnyPath()) : std::nullopt);
   } else if (standing.buttons == ui::Buttons::YesNo) {
     run_->stage.PlayerAnswers(Below(2) ? ui::Answer::Yes : ui::Answer::No);
   } else {
     run_->stage.PlayerAnswers(standing.buttons == ui::Buttons::OkCancel && Below(2)
-                                     ? ui::Answer::Cancel
-                                     : ui::Answer::Ok);
+                                  ? ui::Answer::Cancel
+                                  : ui::Answer::Ok);
   }
 }
 
@@ -102,17 +97,10 @@ void Monkey::Step() {
     run_->stage.Settle();
     return;
   }
-  static constexpr Act acts[] = {&Monkey::UseControl,
-                                 &Monkey::UseControl,
-                                 &Monkey::UseControl,
-                                 &Monkey::UseControl,
-                                 &Monkey::UseControl,
-                                 &Monkey::UseControl,
-                                 &Monkey::UseSomethingThatIsNot,
-                                 &Monkey::UseWindow,
-                                 &Monkey::Wait,
-                                 &Monkey::QueueSomething};
-  (this->*acts[Below(static_cast<int>(std::size(acts)))])();
+  static constexpr Act others[] = {&Monkey::UseSomethingThatIsNot, &Monkey::UseWindow,
+                                   &Monkey::Wait, &Monkey::QueueSomething};
+  const int act = Below(10);
+  act < 4 ? (this->*others[act])() : UseControl();
   if (depth_ == 0) run_->stage.Settle();
   CheckWindows();
   if (done_ % StepsBetweenFileChecks == 0) CheckFiles();
@@ -126,7 +114,7 @@ ui::Control* Monkey::AnyControl(bool usable) {
                            control->GetKind() != ui::Kind::Panel;
     if (canBeUsed == usable) fit.push_back(control);
   }
-  return fit.empty() ? nullptr : fit[static_cast<std::size_t>(Below(static_cast<int>(fit.size())))];
+  return fit.empty() ? nullptr : fit[static_cast<std::size_t>(Below(std::ssize(fit)))];
 }
 
 /// A message box or a file dialog: the windows beneath take no input.
@@ -136,20 +124,15 @@ bool Monkey::BoxStands() const {
 }
 
 void Monkey::UseControl() {
-  if (BoxStands()) {
-    Wait();
-    return;
-  }
+  if (BoxStands()) return Wait();
   ++visits_[run_->platform.ActiveWindow()->Name()];
   if (ui::Control* control = AnyControl(true)) Use(*control);
 }
 
 void Monkey::Use(ui::Control& control) {
   ui::script::Stage& stage = run_->stage;
-  if (Below(8) == 0) {
-    stage.PlayerMoves(control, {Below(control.Place().w + 2), Below(control.Place().h + 2)});
-    return;
-  }
+  const ui::Point place{Below(control.Place().w + 2), Below(control.Place().h + 2)};
+  if (Below(8) == 0) return stage.PlayerMoves(control, place);
   switch (control.GetKind()) {
     case ui::Kind::Field: {
       auto& field = static_cast<ui::Field&>(control);
@@ -158,14 +141,11 @@ void Monkey::Use(ui::Control& control) {
     }
     case ui::Kind::List: {
       auto& list = static_cast<ui::List&>(control);
-      if (!list.Items().empty()) {
-        stage.PlayerChooses(list, Below(static_cast<int>(list.Items().size())));
-      }
+      if (!list.Items().empty()) stage.PlayerChooses(list, Below(std::ssize(list.Items())));
       break;
     }
     case ui::Kind::Surface:
-      stage.PlayerPresses(static_cast<ui::Surface&>(control),
-                             {Below(control.Place().w + 2), Below(control.Place().h + 2)});
+      stage.PlayerPresses(static_cast<ui::Surface&>(control), place);
       break;
     default:
       stage.PlayerClicks(control);
@@ -192,25 +172,19 @@ void Monkey::UseSomethingThatIsNot() {
 void Monkey::UseWindow() {
   if (BoxStands()) return;
   ui::Window* window = run_->platform.ActiveWindow();
-  switch (Below(6)) {
-    case 0:
-      if (Below(4) == 0) run_->stage.PlayerCloses(*window);
-      break;
-    case 1:
-      if (window->Resizable) {
-        run_->stage.PlayerResizes(*window, {Below(20000), Below(20000)});
-      }
-      break;
-    default:
-      if (window->Resizable) {
-        run_->stage.PlayerSetsState(*window, static_cast<ui::WindowState>(Below(3)));
-      }
+  const int act = Below(24);
+  if (act == 0) run_->stage.PlayerCloses(*window);
+  if (act == 0 || !window->Resizable) return;
+  if (act < 5) {
+    run_->stage.PlayerResizes(*window, {Below(20000), Below(20000)});
+  } else {
+    run_->stage.PlayerSetsState(*window, static_cast<ui::WindowState>(Below(3)));
   }
 }
 
 void Monkey::Wait() {
   static constexpr int times[] = {0, 1, 90, 250, 1000, 5000, 30000};
-  run_->stage.PassTime(times[Below(static_cast<int>(std::size(times)))]);
+  run_->stage.PassTime(times[Below(std::ssize(times))]);
 }
 
 void Monkey::QueueSomething() {
@@ -260,31 +234,19 @@ void Monkey::Fail(const std::string& what) {
 }
 
 std::string Monkey::AnyText() {
-  static const char* const texts[] = {"",
-                                      "0",
-                                      "1",
-                                      "100",
-                                      "-5",
-                                      "5000001",
-                                      "32768",
-                                      "2.5",
-                                      "99999999999999999999",
-                                      "abc",
-                                      "Ann*",
-                                      "a,b",
-                                      "***",
-                                      "\"quoted",
-                                      "\xff\xfe\x01",
-                                      "J\xc3\xb6rg",
-                                      "line\r\nline"};
+  // clang-format off
+  static const char* const texts[] = {
+      "", "0", "1", "100", "-5", "5000001", "32768", "2.5", "99999999999999999999", "abc", "Ann*",
+      "a,b", "***", "\"quoted", "\xff\xfe\x01", "J\xc3\xb6rg", "line\r\nline"};
+  // clang-format on
   if (Below(40) == 0) return std::string(static_cast<std::size_t>(Below(5000)), 'x');
-  return texts[Below(static_cast<int>(std::size(texts)))];
+  return texts[Below(std::ssize(texts))];
 }
 
 std::string Monkey::AnyPath() {
   static const char* const names[] = {"saved.qdl", "User.ini", "Corvane.mid",       "Pastimo.gif",
                                       "none",      "",         "no/such/folder.qdl"};
-  return home_ + names[Below(static_cast<int>(std::size(names)))];
+  return home_ + names[Below(std::ssize(names))];
 }
 
 }  // namespace monkey

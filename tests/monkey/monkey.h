@@ -20,9 +20,6 @@ class Monkey {
 
   /// True if all that must always hold held after every step.
   bool Play(std::int64_t steps);
-  /// How often each window was used.
-  const std::map<std::string, std::int64_t>& Visits() const { return visits_; }
-  std::int64_t StepsDone() const { return done_; }
 
  private:
   struct Run;
@@ -45,7 +42,7 @@ class Monkey {
   void CheckFiles();
   void Fail(const std::string& what);
 
-  int Below(int n) { return static_cast<int>(random_() % static_cast<std::uint64_t>(n)); }
+  int Below(std::int64_t n) { return static_cast<int>(random_() % static_cast<std::uint64_t>(n)); }
   ui::Control* AnyControl(bool usable);
   std::string AnyText();
   std::string AnyPath();
@@ -58,7 +55,7 @@ class Monkey {
   std::int64_t done_ = 0;
   int depth_ = 0;
   bool failed_ = false;
-  std::map<std::string, std::int64_t> visits_;
+  std::map<std::string, std::int64_t> visits_;  ///< how often each window was used
 };
 
 }  // namespace monkey
