@@ -46,7 +46,7 @@ class Display:
         return subprocess.run(words, env=self.environment, check=True, capture_output=True).stdout
 
     def shot(self, path):
-        self.run("import", "-window", "root", path)
+        subprocess.run(["import", "-window", "root", path], env=self.environment)
 
 
 class Program:
@@ -75,6 +75,21 @@ class Program:
     def text(self, name):
         return self.ask("text " + name)
 
+    def sees(self, name, text):
+        self.until(lambda: self.text(name) == text, "%s = '%s'" % (name, text))
+
+    def ready(self, active):
+        """Waits until a window, or a box whose message begins so, stands still with the keyboard."""
+        before = None
+        end = time.time() + PATIENCE
+        while time.time() < end:
+            answer = self.ask("active")
+            if answer == before and answer.startswith(active):
+                return
+            before = answer
+            time.sleep(0.06)
+        raise Failure("'%s' has not come up, but: %s" % (active, before))
+
     def place(self, name):
         """Left, top, width and height on the screen; waits until the control is shown."""
         end = time.time() + PATIENCE
@@ -86,19 +101,19 @@ class Program:
         raise Failure(name + " is not shown")
 
     def move(self, name, x=0.5, y=0.5):
-        left, top, width, height = self.place(name)
-        self.display.run("xdotool", "mousemove", str(int(left + width * x)),
-                         str(int(top + height * y)))
+        self.move_to(self.place(name), x, y)
 
-    def click_at(self, place):
-        """A click in the middle of a place that was asked for before."""
+    def move_to(self, place, x=0.5, y=0.5, *more):
         left, top, width, height = place
-        self.display.run("xdotool", "mousemove", str(left + width // 2), str(top + height // 2),
-                         "click", "1")
+        self.display.run("xdotool", "mousemove", str(int(left + width * x)),
+                         str(int(top + height * y)), *more)
+
+    def click_at(self, place, x=0.5, y=0.5):
+        """A click on a place that was asked for before."""
+        self.move_to(place, x, y, "click", "1")
 
     def click(self, name, x=0.5, y=0.5):
-        self.move(name, x, y)
-        self.display.run("xdotool", "click", "1")
+        self.click_at(self.place(name), x, y)
 
     def keys(self, *names):
         self.display.run("xdotool", "key", *names)
