@@ -119,7 +119,7 @@ class Program:
         self.display.run("xdotool", "key", *names)
 
     def type(self, text):
-        self.display.run("xdotool", "type", "--delay", "5", text)
+        self.display.run("xdotool", "type", "--delay", "5", "--", text)
 
     def pixel(self, name, x=0.5, y=0.5):
         """The colour that the screen shows at a place of a control, read from the screen itself."""
