@@ -110,7 +110,7 @@ class Program:
 
     def click_at(self, place, x=0.5, y=0.5):
         """A click on a place that was asked for before."""
-        self.move_to(place, x, y, "click", "1")
+        self.move_to(place, x, y, "click", "--delay", "0", "1")
 
     def click(self, name, x=0.5, y=0.5):
         self.click_at(self.place(name), x, y)
