@@ -8,6 +8,9 @@ import tempfile
 import threading
 import time
 
+# A window manager that grabs no clicks: replaying them, it now and then gives the press another place.
+MANAGER = """<openbox_config><mouse/><keyboard>
+<keybind key="A-F4"><action name="Close"/></keybind></keyboard></openbox_config>"""
 PATIENCE = 8.0  # seconds until a thing that should happen counts as missing
 
 
@@ -30,8 +33,12 @@ class Display:
         self.manager = None
         self.programs = []
         try:
-            self.manager = subprocess.Popen(["openbox"], env=self.environment,
-                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            config = os.path.join(tempfile.mkdtemp(), "rc.xml")
+            with open(config, "w") as file:
+                file.write(MANAGER)
+            self.manager = subprocess.Popen(["openbox", "--config-file", config],
+                                            env=self.environment, stdout=subprocess.DEVNULL,
+                                            stderr=subprocess.DEVNULL)
             time.sleep(0.3)
         except FileNotFoundError:
             pass

@@ -44,6 +44,7 @@ class Player(Program):
         """What is clicked while a round is scored has no effect, then or later."""
         places = [self.place(name) for name in late]
         act()
+        self.until(lambda: self.ask("busy") == "yes", "the round is scored")
         for place in places:
             self.click_at(place)
         self.next_round(*next_round)
