@@ -1,4 +1,5 @@
-// What a player waits for: opening a game, a click on a card, a move over Mozaro's boxes, a repaint.
+// What a player waits for: opening a game, a click on a card, a move over Mozaro's boxes, a
+// repaint.
 #include <unistd.h>
 
 #include <algorithm>
@@ -28,7 +29,9 @@ void Tell(const char* what, int times, const std::function<double(int)>& measure
   std::vector<double> milliseconds;
   for (int i = 0; i < times; ++i) milliseconds.push_back(measure(i));
   std::sort(milliseconds.begin(), milliseconds.end());
-  const auto at = [&](int percent) { return milliseconds[std::size_t((times - 1) * percent / 100)]; };
+  const auto at = [&](int percent) {
+    return milliseconds[std::size_t((times - 1) * percent / 100)];
+  };
   std::printf("%s: median %.2f ms, 99th percentile %.2f ms\n", what, at(50), at(99));
 }
 
@@ -54,9 +57,8 @@ void MeasureQuindle(const QtPlatform& platform) {
 /// Opens a game from the launcher, starts it, and measures when all that has been shown.
 void Measure(QtPlatform& platform, const std::string& game) {
   const std::string window = "frm" + game;
-  const double opening = ui::qt::TimeToFirstFrame(window, [&] {
-    platform.UserClick(Named(platform, ("cmd" + game).c_str()));
-  });
+  const double opening = ui::qt::TimeToFirstFrame(
+      window, [&] { platform.UserClick(Named(platform, ("cmd" + game).c_str())); });
   std::printf("at %.2f device pixels to a pixel:\nopening %s to its first frame: %.1f ms\n",
               ui::qt::PixelRatio(window), game.c_str(), opening);
   platform.UserClick(Named(platform, "cmdPlay"));

@@ -8,7 +8,7 @@ import tempfile
 import threading
 import time
 
-# A window manager that grabs no clicks: replaying them, it now and then gives the press another place.
+# A window manager that grabs no clicks: when it replays one, the press may get the place before.
 MANAGER = """<openbox_config><mouse/><keyboard>
 <keybind key="A-F4"><action name="Close"/></keybind></keyboard></openbox_config>"""
 PATIENCE = 8.0  # seconds until a thing that should happen counts as missing

@@ -1,5 +1,5 @@
-// The desktop program for tests: a probe tells where its controls stand, cards and draws can be laid
-// ready, and PASTIMO_PACE divides the program's waits.
+// The desktop program for tests: a probe tells where its controls stand, cards and draws can be
+// laid ready, and PASTIMO_PACE divides the program's waits.
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
@@ -39,8 +39,7 @@ int main(int argc, char** argv) {
   core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""),
                         argc > 1 ? argv[1] : "");
   program.Start();
-  const Probe probe(platform, [&](const std::string& verb, std::istream& words) {
-    Stage(chance, verb, words);
-  });
+  const Probe probe(
+      platform, [&](const std::string& verb, std::istream& words) { Stage(chance, verb, words); });
   return platform.Exec();
 }

@@ -63,8 +63,8 @@ class Probe::Reader {
     const QWidget* active = QApplication::activeWindow();
     if (!active) return "none";
     const auto* box = qobject_cast<const QMessageBox*>(active);
-    const QString name = box ? QStringLiteral("box ") + box->text().simplified()
-                             : active->objectName();
+    const QString name =
+        box ? QStringLiteral("box ") + box->text().simplified() : active->objectName();
     return ui::qt::FromQt(name) + "@" + OnScreen(*active, active->rect());
   }
 
@@ -74,7 +74,8 @@ class Probe::Reader {
     int x = 0, y = 0, w = 0, h = 0;
     if (!(place >> x >> y >> w >> h)) return "none";
     const QPoint middle(x + w / 2, y + h / 2);
-    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(QApplication::activeWindow());
+    QAccessibleInterface* found =
+        QAccessible::queryAccessibleInterface(QApplication::activeWindow());
     while (QAccessibleInterface* inner = found ? found->childAt(middle.x(), middle.y()) : nullptr) {
       found = inner;
     }

@@ -26,7 +26,8 @@ class Probe {
   /// Carries out what no question is: a verb and the words behind it.
   using Stage = std::function<void(const std::string& verb, std::istream& words)>;
 
-  explicit Probe(ui::qt::QtPlatform& platform, Stage stage = [](auto&, auto&) {});
+  explicit Probe(
+      ui::qt::QtPlatform& platform, Stage stage = [](auto&, auto&) {});
   ~Probe();
 
  private:

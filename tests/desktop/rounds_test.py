@@ -47,9 +47,9 @@ class Player(Program):
         self.until(lambda: self.ask("busy") == "yes", "the round is scored")
         for place in places:
             self.click_at(place)
-        self.next_round(*next_round)
+        self.settles(*next_round)
 
-    def next_round(self, label, text):
+    def settles(self, label, text):
         self.sees(label, text)
         self.until(lambda: self.ask("busy") == "no", "the round is set up")
 
@@ -102,7 +102,7 @@ def brenlock(player):
     player.scored("lblTotalScore", 200000, 300000)
     for label in ("Round: 3", "Round: 4"):
         player.click("cmdGiveUp")
-        player.next_round("lblRound", label)
+        player.settles("lblRound", label)
     player.click("cmdGiveUp")
 
 
@@ -118,7 +118,7 @@ def harvel(player):
                       ("lblRound", "Round: 2"))
     player.scored("lblTotalScore", 750, 30000)
     player.click("cmdTakeScore")
-    player.next_round("lblRound", "Round: 3")
+    player.settles("lblRound", "Round: 3")
     player.click("cmdTakeScore")
 
 
@@ -133,7 +133,7 @@ def ostrel(player):
                       ("lblCurrentRound", "2"))
     player.scored("lblCurrentScore", 40600 + 15000 + 28000 + 100, 40600 + 15000 + 28000 + 4500)
     player.click("cmdTakeScore")
-    player.next_round("lblCurrentRound", "Bonus")
+    player.settles("lblCurrentRound", "Bonus")
     player.click("cmdTakeScore")
 
 
@@ -162,7 +162,7 @@ def vermoy(player):
     player.scored("lblCurrentScore", 3500, 75 * 3500)
     for label in ("Round: 3", "Bonus Round"):
         player.clicks("PlayCards", *range(25))
-        player.next_round("lblRound", label)
+        player.settles("lblRound", label)
     player.clicks("PlayCards", *range(25))
 
 
@@ -196,7 +196,7 @@ def glimmard(player):
     player.scored("lblCurrentScore", 35000, 300000)
     player.click("cmdSolve")
     player.type("itso")
-    player.next_round("lblMessage", "Select 5 consonants and 1 vowel")
+    player.settles("lblMessage", "Select 5 consonants and 1 vowel")
     player.clicks("cmdLetter", 11, 25, 14, 17, 3, 7)
     player.type("we")
 
@@ -247,7 +247,7 @@ def whole(button, window, table, staged, files, moves):
         with open(table_file) as file:
             entered = file.readline()
         player.click("cmdDone")
-        player.next_round("cmdPlay", "&Play")
+        player.settles("cmdPlay", "&Play")
         score = next(label for label in SCORES if player.ask("place " + label) != "none")
         check(entered.startswith("Ann, %d, " % player.points(score)), "entered: " + entered)
         player.ready(window)
