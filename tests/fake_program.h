@@ -229,7 +229,7 @@ struct Program {
   Subject subject;
   frmMain main{platform};
 
-  Program() { platform.SetHome("/home/"); }
+  Program() { platform.Stage().SetHome("/home/"); }
   void Start() { platform.Show(main); }
 };
 

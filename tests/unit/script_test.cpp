@@ -15,7 +15,7 @@ std::string Answers(const std::string& commands) {
   std::istringstream in(commands);
   std::ostringstream out;
   fake::Program program;
-  ui::script::Interpreter interpreter(program.platform, program.subject, in, out,
+  ui::script::Interpreter interpreter(program.platform.Stage(), program.subject, in, out,
                                       [] { throw LeftAtEnd{}; });
   try {
     interpreter.Play([&] { program.Start(); });
@@ -560,8 +560,8 @@ ok
 TEST(TheClockStartsAtNoonAndIsSet) {
   ui::HeadlessPlatform platform;
   CHECK_EQ(platform.Now(), 1767268800000);
-  platform.PassTime(1500);
-  platform.SetNow(ui::script::TakeMoment({"2000-03-01 00:00:00", true}));
+  platform.Stage().PassTime(1500);
+  platform.Stage().SetNow(ui::script::TakeMoment({"2000-03-01 00:00:00", true}));
   platform.Wait(10);
   CHECK_EQ(platform.Now(), 951868800010);
   CHECK_EQ(platform.Ticks(), 1510);

@@ -44,6 +44,7 @@ class FieldMirror : public Mirror {
   }
 
   void Moved() {
+    if (!Widget()->hasFocus()) return;  // a widget that loses the focus shows no selection
     const Selection selection = InBytes(ShownSelection());
     if (ShownText() != WithoutReturns(field_.Text())) return;  // Typed tells both
     host_.Act(field_, [this, selection] { field_.Selected = selection; });
