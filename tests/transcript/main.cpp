@@ -116,9 +116,22 @@ class Player {
         Start();
         break;
       case Part::Kind::Command:
-        process_->Send(Meant(part.text));
+        return Judge(part, CompareAnswer(part.expected, Told(AnswersTo(part))));
     }
     Judge(part, CompareAnswer(part.expected, Told(process_->ReadAnswer())));
+  }
+
+  /// The answers in a row, with only the last one's `ok`.
+  Lines AnswersTo(const Part& part) {
+    Lines all;
+    for (int i = 0; i < part.times; ++i) {
+      if (!all.empty()) all.pop_back();
+      process_->Send(Meant(part.text));
+      const Lines answer = process_->ReadAnswer();
+      all.insert(all.end(), answer.begin(), answer.end());
+      if (answer.empty() || answer.back() != "ok") break;
+    }
+    return all;
   }
 
   std::string PathOf(const Part& part) const { return home_.path + "/" + part.text; }
