@@ -3,6 +3,7 @@
 
 Usage: side_by_side.py PASTIMO-SCRIPT PASTIMO-SCRIPT-WIDGETS [STEPS [SEED]]
 """
+import difflib
 import random
 import subprocess
 import sys
@@ -49,10 +50,8 @@ class Pair:
 
     def compare(self, answers):
         if answers[0] != answers[1]:
-            plain, widgets = (set(a) for a in answers)
-            sys.exit("\n".join(["after", *self.history, "without a screen:",
-                                *[l for l in answers[0] if l not in widgets], "on widgets:",
-                                *[l for l in answers[1] if l not in plain]]))
+            sys.exit("\n".join(["after", *self.history, *difflib.unified_diff(
+                *answers, "without a screen", "on widgets", lineterm="", n=1)]))
         self.ended = "* end" in answers[0]
         return answers[0]
 

@@ -248,7 +248,8 @@ void Monkey::CheckFiles() {
       // Tables within reach, so that the monkey comes to the windows behind a good score.
       core::WriteWhole(entry.path().string(), core::FormatTable(core::NewTable(Below(500))));
     }
-    if (core::EndsWithAnyCase(name, ".ini") && !core::EndsWith(*text, "\r\n\r\n")) Fail(name);
+    const bool settings = core::EndsWith(name, ".ini") || core::EndsWith(name, ".Ini");
+    if (settings && !core::EndsWith(*text, "\r\n\r\n")) Fail(name);
     if (name.starts_with(".pastimo-")) Fail("left over: " + name);
   }
 }

@@ -112,6 +112,9 @@ class Player {
       case Part::Kind::NoFile:
         if (fs::exists(PathOf(part))) Complain(part, {"  the file is there"});
         return;
+      case Part::Kind::Repeat:
+        for (int times = std::stoi(part.text); times > 0; --times) PlayLines(part);
+        return;
       case Part::Kind::Start:
         Start();
         break;
@@ -132,6 +135,14 @@ class Player {
       if (answer.empty() || answer.back() != "ok") break;
     }
     return all;
+  }
+
+  void PlayLines(const Part& part) {
+    for (const std::string& command : part.expected) {
+      process_->Send(Meant(command));
+      const Comparison comparison = CompareAnswer({}, Told(process_->ReadAnswer()));
+      if (!comparison.same) Complain(part, comparison.difference);
+    }
   }
 
   std::string PathOf(const Part& part) const { return home_.path + "/" + part.text; }

@@ -17,7 +17,7 @@ bool IsNote(const std::string& line) {
 }
 
 bool HoldsLines(Kind kind) {
-  return kind == Kind::File || kind == Kind::ExpectFile;
+  return kind == Kind::File || kind == Kind::ExpectFile || kind == Kind::Repeat;
 }
 
 bool IsAnswered(Kind kind) {
@@ -28,11 +28,9 @@ struct Opening {
   const char* text;
   Kind kind;
 };
-constexpr Opening Openings[] = {{"> ", Kind::Command},
-                                {"@args ", Kind::Args},
-                                {"@file ", Kind::File},
-                                {"@expect-file ", Kind::ExpectFile},
-                                {"@no-file ", Kind::NoFile}};
+constexpr Opening Openings[] = {{"> ", Kind::Command},       {"@args ", Kind::Args},
+                                {"@file ", Kind::File},      {"@expect-file ", Kind::ExpectFile},
+                                {"@no-file ", Kind::NoFile}, {"@repeat ", Kind::Repeat}};
 
 class Reader {
  public:

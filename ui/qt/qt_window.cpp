@@ -215,8 +215,8 @@ void QtWindow::SyncWindow() {
 }
 
 void QtWindow::FollowSize() {
-  // A window that opens maximized must know what to be restored to.
-  if (model_->State() == WindowState::Maximized && !placed_) resize(WholeSize(NormalInnerOf(*model_)));
+  // A window that doesn't open in its normal state must know what to be restored to.
+  if (!placed_) resize(WholeSize(NormalInnerOf(*model_)));
   if (model_->State() != WindowState::Normal || windowState() & Qt::WindowMaximized) return;
   const QSize wanted = WholeSize(InnerOf(*model_));
   if (!model_->Layout().Empty() && isVisible()) return;  // the layout's size is its own affair

@@ -38,6 +38,7 @@ class QtWindow : public QWidget {
   void ControlChanged(Control& control);
   void WindowChanged();
   void Sync();
+  bool IsSyncing() const { return syncing_; }
   /// Paints at once what has changed.
   void PaintNow();
   void TakeFocus(Control& control);

@@ -2,6 +2,7 @@
 #include "ui/qt/script/scripted_desktop.h"
 
 #include <QMessageBox>
+#include <QTemporaryFile>
 #include <iostream>
 #include <utility>
 
@@ -16,16 +17,25 @@ void PassOverRemarks(QtMsgType, const QMessageLogContext&, const QString& messag
   std::cerr << message.toStdString() << '\n';
 }
 
-int& OnHiddenDisplay(int& argc) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  qInstallMessageHandler(PassOverRemarks);
-  return argc;
-}
+/// A screen on which a maximized window's inside is as large as on the screen that the program is
+/// told of: the hidden display's frames are narrower.
+constexpr const char* Screen = R"({"screens":[{"name":"hidden","x":0,"y":0,"width":1916,"height":1053,
+  "logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
 
 }  // namespace
 
+HiddenDisplay::HiddenDisplay() : screen_(std::make_unique<QTemporaryFile>()) {
+  qInstallMessageHandler(PassOverRemarks);
+  if (!screen_->open()) return;
+  screen_->write(Screen);
+  screen_->close();
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen_->fileName().toUtf8());
+}
+
+HiddenDisplay::~HiddenDisplay() = default;
+
 ScriptedDesktop::ScriptedDesktop(int& argc, char** argv, Installation installation)
-    : QtPlatform(OnHiddenDisplay(argc), argv, std::move(installation)) {}
+    : QtPlatform(argc, argv, std::move(installation)) {}
 
 void ScriptedDesktop::Wait(int milliseconds) {
   hands_.Wait(milliseconds);

@@ -1,16 +1,29 @@
 // The desktop's real windows under a script: no display, and a clock that a script drives.
 #pragma once
 
+#include <memory>
+
 #include "ui/qt/platform.h"
 #include "ui/qt/script/hands.h"
 
+class QTemporaryFile;
+
 namespace ui::qt {
+
+/// The display that nobody sees, chosen before the application is there.
+class HiddenDisplay {
+ protected:
+  HiddenDisplay();
+  ~HiddenDisplay();
+
+ private:
+  std::unique_ptr<QTemporaryFile> screen_;  ///< tells the display its size
+};
 
 /// All that is a widget is real and is used as a player uses it; message boxes too. File dialogs,
 /// sound, browser, viewer and mail belong to the machine: here they are the director's.
-class ScriptedDesktop : public QtPlatform {
+class ScriptedDesktop : private HiddenDisplay, public QtPlatform {
  public:
-  /// Chooses the display that nobody sees, unless the environment names another one.
   ScriptedDesktop(int& argc, char** argv, Installation installation);
 
   /// The stage on which a script plays.
