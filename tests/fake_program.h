@@ -1,7 +1,6 @@
 // A program of three windows that does all that a script can meet.
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -28,18 +27,6 @@ class frmDialog : public ui::Window {
   void cmdMore_Click() {
     GetPlatform().MessageBox(ui::Sign::Plain, ui::Buttons::OkCancel, "", "More?");
   }
-};
-
-class frmOther : public ui::Window {
- public:
-  explicit frmOther(ui::Platform& platform) : ui::Window(platform, "frmOther") {}
-  ui::Label lblOther{this, "lblOther", "there"};
-  ui::Button cmdBack{this, "cmdBack", "&Back", "", &frmOther::cmdBack_Click};
-  ui::Window* main = nullptr;
-
- private:
-  void Unloading() override { GetPlatform().Show(*main); }
-  void cmdBack_Click() { Unload(); }
 };
 
 class frmMain : public ui::Window {
@@ -77,7 +64,6 @@ class frmMain : public ui::Window {
   ui::Button cmdAsk{this, "cmdAsk", "", "", &frmMain::cmdAsk_Click};
   ui::Button cmdFiles{this, "cmdFiles", "", "", &frmMain::cmdFiles_Click};
   ui::Button cmdModal{this, "cmdModal", "", "", &frmMain::cmdModal_Click};
-  ui::Button cmdOther{this, "cmdOther", "", "", &frmMain::cmdOther_Click};
   ui::Button cmdWait{this, "cmdWait", "", "", &frmMain::cmdWait_Click};
   ui::Button cmdServe{this, "cmdServe", "", "", &frmMain::cmdServe_Click};
   ui::Button cmdWaitAsk{this, "cmdWaitAsk", "", "", &frmMain::cmdWaitAsk_Click};
@@ -154,13 +140,6 @@ class frmMain : public ui::Window {
     GetPlatform().ShowModal(dialog);
     Say("name " + dialog.txtFirst.Text());
   }
-  void cmdOther_Click() {
-    auto other = std::make_unique<frmOther>(GetPlatform());
-    other->main = this;
-    GetPlatform().Show(*other);
-    GetPlatform().Hide(*this);
-    others_.push_back(std::move(other));
-  }
   void cmdWait_Click() {
     for (int i = 1; i <= 2; ++i) {
       lblSeen.Text = std::to_string(i);
@@ -197,7 +176,6 @@ class frmMain : public ui::Window {
   void imgCard_Click(int i) { Say("card " + std::to_string(i)); }
 
   int slowTicks_ = 0;
-  std::vector<std::unique_ptr<frmOther>> others_;
 };
 
 /// Keeps what it is given, and shows it as values.
@@ -229,7 +207,7 @@ struct Program {
   Subject subject;
   frmMain main{platform};
 
-  Program() { platform.SetHome("/home/"); }
+  Program() { platform.Stage().SetHome("/home/"); }
   void Start() { platform.Show(main); }
 };
 

@@ -1,6 +1,7 @@
 // check_phrases DIRECTORY: looks whether all phrases of the seven files fit the board, and whether
 // there are enough of them, no two alike.
 #include <algorithm>
+#include <cctype>
 #include <iostream>
 #include <set>
 
@@ -20,6 +21,12 @@ bool HasLetter(const std::string& phrase) {
                      [](unsigned char c) { return LetterIndex(c) >= 0; });
 }
 
+std::string InCapitals(std::string phrase) {
+  std::transform(phrase.begin(), phrase.end(), phrase.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return phrase;
+}
+
 /// What is wrong with a phrase; empty if nothing is.
 std::string FaultOf(const std::string& phrase) {
   if (core::Trim(phrase) != phrase || phrase.find("  ") != std::string::npos) return "blanks";
@@ -37,7 +44,7 @@ bool CheckFile(const std::string& path) {
   for (const std::string& phrase : ReadPhrases(text.value_or("")).phrases) {
     if (phrase.empty()) continue;
     std::string fault = FaultOf(phrase);
-    if (!phrases.insert(core::UpperAscii(phrase)).second) fault = "stands there twice";
+    if (!phrases.insert(InCapitals(phrase)).second) fault = "stands there twice";
     if (fault.empty()) continue;
     std::cout << path << ": " << phrase << ": " << fault << '\n';
     good = false;

@@ -179,6 +179,15 @@ void Desk::Opened(Window& window, bool modal) {
   window.Activate();
 }
 
+void Desk::FocusFirst(Window& window) {
+  if (!window.IsOpen() || window.IsHidden() || FocusOf(window)) return;
+  const auto& controls = window.Controls();
+  const auto first = std::find_if(controls.begin(), controls.end(), [](const Control* c) {
+    return TakesFocus(c->GetKind()) && c->Usable();
+  });
+  if (first != controls.end()) SetFocus(**first);
+}
+
 void Desk::WasHidden(Window& window) {
   window.hidden_ = true;
 }

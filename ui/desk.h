@@ -49,6 +49,13 @@ class Desk : public Platform {
   void UserResize(Window& window, Size outerTwips);
   void UserState(Window& window, WindowState state);
 
+  /// The enabled timer of an open window that is due first, not after `limit`; null if none.
+  Timer* FirstDue(std::int64_t limit) const;
+  /// Lets one timer tick.
+  void Tick(Timer& timer);
+  /// Each timer that is due at this moment ticks once.
+  void TickAllDue();
+
   /// The store behind ArtworkOf, set once at start-up.
   void SetArtwork(std::function<std::string(std::string_view key)> artwork) {
     artwork_ = std::move(artwork);
@@ -66,16 +73,12 @@ class Desk : public Platform {
 
  protected:
   void Opened(Window& window, bool modal);
+  /// A window in which nothing has the focus gives it to the first control that takes it.
+  void FocusFirst(Window& window);
   void WasHidden(Window& window);
   void Closed(Window& window);
   void RaiseToTop(Window& window);
 
-  /// The enabled timer of an open window that is due first, not after `limit`; null if none.
-  Timer* FirstDue(std::int64_t limit) const;
-  /// Lets one timer tick.
-  void Tick(Timer& timer);
-  /// Each timer that is due at this moment ticks once.
-  void TickAllDue();
 
  private:
   void BuryDead();

@@ -61,7 +61,10 @@ Size Window::OuterSize() const {
 }
 
 Size Window::InnerSize() const {
-  const Size outer = OuterSize();
+  return InnerFor(OuterSize());
+}
+
+Size Window::InnerFor(Size outer) const {
   const Size trimmings = Trimmings(controls_);
   return {std::max(1, outer.w / TwipsPerPixel - trimmings.w),
           std::max(1, outer.h / TwipsPerPixel - trimmings.h)};

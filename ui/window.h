@@ -46,7 +46,8 @@ class Window : public Changeable {
   Size OuterSize() const;
   /// Inner area in logical pixels, without title, menu and status bar; at least 1 by 1.
   Size InnerSize() const;
-  /// The outer size that gives this inner area.
+  /// The inner area of this outer size, and the outer size of this inner area.
+  Size InnerFor(Size outerTwips) const;
   Size OuterFor(Size inner) const;
 
   bool Resizable = true;

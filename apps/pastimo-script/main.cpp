@@ -1,36 +1,9 @@
-// The whole program on the headless platform, played by a script on standard input.
-#include <chrono>
-#include <iostream>
-
-#include "apps/pastimo-script/program_subject.h"
-#include "core/launcher/program.h"
-#include "games/catalogue.h"
+// The scripted player without a screen.
+#include "apps/pastimo-script/play.h"
 #include "ui/headless/platform.h"
-#include "ui/script/interpreter.h"
-#include "ui/script/options.h"
 
 int main(int count, char** words) {
-  using ui::script::ScriptOptions;
-  std::ios::sync_with_stdio(false);
-  const auto options = ScriptOptions::Parse(std::vector<std::string>(words + 1, words + count));
-  if (!options.error.empty()) {
-    std::cerr << options.error << '\n';
-    return 2;
-  }
+  const auto options = app::OptionsOf(count, words);
   ui::HeadlessPlatform platform;
-  app::StagedChance chance([] {
-    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-  });
-  core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(options.home),
-                        options.savedGame);
-  platform.SetHome(program.suite.shared.AppPath);
-  app::ProgramSubject subject(program.suite, chance);
-  ui::script::Interpreter interpreter(platform, subject, std::cin, std::cout);
-  try {
-    for (const std::string& fault : options.faults) interpreter.SetFault(fault);
-  } catch (const ui::script::Refused& refused) {
-    std::cerr << refused.reason << '\n';
-    return 2;
-  }
-  interpreter.Play([&] { program.Start(); });
+  return app::Play(options, platform, platform.Stage());
 }

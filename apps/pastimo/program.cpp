@@ -19,11 +19,12 @@ std::uint64_t Nanoseconds() {
 
 }  // namespace
 
-int RunPastimo(int argc, char** argv, const Started& started) {
-  ui::qt::QtPlatform platform(argc, argv, {core::DataDirectory() + "pictures"});
+int RunPastimo(int argc, char** argv, const Started& started, Instead instead) {
+  ui::qt::QtPlatform platform(argc, argv, {core::DataDirectory() + "pictures"},
+                              std::move(instead.clock));
   core::Chance chance(Nanoseconds);
-  core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""),
-                        argc > 1 ? argv[1] : "");
+  core::Program program(platform, instead.chance ? *instead.chance : chance, games::AllGames(),
+                        core::HomeDirectory(""), argc > 1 ? argv[1] : "");
   program.Start();
   if (started) started(platform);
   return platform.Exec();

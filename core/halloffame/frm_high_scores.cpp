@@ -113,6 +113,7 @@ void frmHighScores::Timer1_Timer() {
 }
 
 void frmHighScores::cmdDone_Click() {
+  suite_.shared.NewHighScoreRank = -1;
   Unload();
 }
 

@@ -76,7 +76,7 @@ bool UpdateHighScores(Suite& suite, TableOwner& owner) {
 
 void ViewHighScores(Suite& suite, TableOwner& owner) {
   if (!Exists(HighScorePath(suite, owner))) {
-    CreateHighScoreFile(suite, owner, owner.Entry().startScores.inHighScores);
+    CreateHighScoreFile(suite, owner, owner.Entry().startScores.atWindow);
   }
   frmHighScores window(suite, owner);
   suite.ShowModal(window);
@@ -84,7 +84,7 @@ void ViewHighScores(Suite& suite, TableOwner& owner) {
 
 bool AskToClearHighScores(Suite& suite, TableOwner& owner) {
   if (!suite.Ask("This will clear all High Scores. Are You Sure?")) return false;
-  CreateHighScoreFile(suite, owner, owner.Entry().startScores.inHighScores);
+  CreateHighScoreFile(suite, owner, owner.Entry().startScores.atWindow);
   return true;
 }
 

@@ -75,9 +75,4 @@ std::vector<ScoreRow> Insert(std::vector<ScoreRow> rows, int rank, ScoreRow row)
   return rows;
 }
 
-Insertion Offer(const std::vector<ScoreRow>& rows, const ScoreRow& row) {
-  const int rank = RankFor(rows, row.score);
-  return {rank, Insert(rows, rank, row)};
-}
-
 }  // namespace core

@@ -45,11 +45,4 @@ int RankFor(const std::vector<ScoreRow>& rows, std::int32_t score);
 // The rows with one more at a rank from 0 to 9, ten at most; unchanged, but for that, at another.
 std::vector<ScoreRow> Insert(std::vector<ScoreRow> rows, int rank, ScoreRow row);
 
-// A table after a score was offered to it, and where that stands: RankFor and Insert in one.
-struct Insertion {
-  int rank = -1;
-  std::vector<ScoreRow> rows;
-};
-Insertion Offer(const std::vector<ScoreRow>& rows, const ScoreRow& row);
-
 }  // namespace core

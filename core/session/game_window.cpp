@@ -85,9 +85,7 @@ void GameWindow::ShowTableTop() {
 }
 
 void GameWindow::Resized() {
-  // Pause can be used in a round only: not while one is scored, nor at the end of a game.
-  const bool inRound = GameRunning() && cmdPause.Enabled() && !shared.ScoringBusy;
-  if (inRound && StopsWhenMinimized()) StopOrGoOnMinimized();
+  if (InRound() && StopsWhenMinimized()) StopOrGoOnMinimized();
   if (State() == ui::WindowState::Minimized) return;
   if (BelowSmallest()) {
     NormalSize = words_.smallestSize;
@@ -96,6 +94,10 @@ void GameWindow::Resized() {
   const ui::Size inner = InnerSize();
   PlaceFrame(inner);
   PlaceBoard(inner);
+}
+
+bool GameWindow::InRound() const {
+  return GameRunning() && cmdPause.Enabled() && !shared.ScoringBusy;
 }
 
 void GameWindow::StopOrGoOnMinimized() {
@@ -127,7 +129,6 @@ void GameWindow::PlaceFrame(ui::Size inner) {
 }
 
 bool GameWindow::QueryClose() {
-  if (shared.ScoringBusy) return false;
   if (GameRunning()) {
     const bool paused = PauseForDialog();
     if (suite.Ask("You have a game in progress. Are you sure you want to quit now?")) return true;

@@ -108,6 +108,8 @@ class GameWindow : public ui::Window, public TableOwner {
   virtual std::vector<ui::Timer*> GameTimers() { return {&Timer1}; }
   /// The game stands still while the window is minimized.
   virtual bool StopsWhenMinimized() const { return true; }
+  /// A round is being played, or paused: not while one is scored, nor at the end of a game.
+  virtual bool InRound() const;
   virtual ui::Button* TakeScoreButton() { return nullptr; }
   /// At the end of loading, with the settings read.
   virtual void Loaded() {}
@@ -158,6 +160,8 @@ class GameWindow : public ui::Window, public TableOwner {
   /// Captions, tips and menus of a game that runs, or of an idle window.
   void ShowRunningCommands();
   void ShowIdleCommands();
+  void OfferNewGame();  ///< the same, but Play and Exit may still be off
+  void EnablePlayAndExit();
   void EnableFixedMenus(bool enabled);
   /// All of a game's commands, as while a round is scored they are off.
   void EnableCommands(bool enabled);
@@ -253,8 +257,6 @@ class GameWindow : public ui::Window, public TableOwner {
   void PlaceFrame(ui::Size inner);
   ui::Handler HandlerOf(Command command);
   void Bind(std::vector<MenuRow>& rows);
-  void ClearTimeCheck();
-  void ClearDeckChecks();
 
   void Timer2_Timer() { Clock.Flash(); }
   void WallClock_Timer();

@@ -129,7 +129,7 @@ void GameWindow::mnuViewHiScore_Click() {
 
 void GameWindow::mnuClear_Click() {
   if (!AskToClearHighScores(suite, *this)) return;
-  ShowHighScore(suite, *this, entry_.startScores.inHighScores);
+  ShowTableTop();
 }
 
 void GameWindow::mnuRules_Click() {

@@ -68,9 +68,17 @@ void GameWindow::ShowRunningCommands() {
 }
 
 void GameWindow::ShowIdleCommands() {
-  ShowCaptionOfPlay(false);
+  OfferNewGame();
+  EnablePlayAndExit();
+}
+
+void GameWindow::EnablePlayAndExit() {
   cmdPlay.Enabled = cmdExit.Enabled = true;
   Menus.Enable(true, {Command::Play, Command::Exit});
+}
+
+void GameWindow::OfferNewGame() {
+  ShowCaptionOfPlay(false);
   cmdPause.Enabled = false;
   if (TakeScoreButton()) TakeScoreButton()->Enabled = false;
   Menus.Enable(false, {Command::Pause, Command::TakeScore});
@@ -252,7 +260,7 @@ void GameWindow::CreateTableIfMissing() {
 void GameWindow::FinishGame() {
   Timer1.Enabled = false;
   shared.GameActive = false;
-  ShowIdleCommands();
+  OfferNewGame();
   UpdateTable();
   ShowCards(false);
   ShowControls(false, true);
@@ -263,6 +271,7 @@ void GameWindow::ShowGameOver(int milliseconds, ui::Color color) {
   ShowMessage("Game Over", color);
   Wait(milliseconds);
   ShowTitle(true);
+  EnablePlayAndExit();
   Message.Visible = false;
 }
 

@@ -18,9 +18,9 @@ struct GameEntry;
 
 /// The top score of a table that doesn't exist yet, by who makes the table.
 struct StartScores {
-  std::int32_t atWindow;      ///< the game's window: on opening, and when a time limit is chosen
+  std::int32_t atWindow;      ///< the game's window and its menu
   std::int32_t atEnd;         ///< the end of a game
-  std::int32_t inHighScores;  ///< the high score window, and clearing
+  std::int32_t inHighScores;  ///< the high score window's own button
 };
 
 using WindowMaker = std::function<std::unique_ptr<ui::Window>(Suite&, const GameEntry&)>;

@@ -28,7 +28,7 @@ class Suite {
   Deck deck;
   CardImages images;
   ui::Window* launcher = nullptr;
-  std::optional<std::string> commandLine;  ///< a saved game to open; taken once
+  std::optional<std::string> commandLine;  ///< a saved game, which a window opens once
 
   /// What a game keeps from one of its windows to the next; made when it is first asked for, and
   /// gone with the program. A game asks for one type only.

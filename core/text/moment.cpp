@@ -29,16 +29,6 @@ std::int64_t DaysSince1970(const Moment& moment) {
   return sys_days{firstOfMonth}.time_since_epoch().count() + (moment.day - std::int64_t{1});
 }
 
-// The number that stands in these characters, -1 if they are not all digits.
-int DigitsAt(std::string_view text, std::size_t at, std::size_t count) {
-  int value = 0;
-  for (const char c : text.substr(at, count)) {
-    if (c < '0' || c > '9') return -1;
-    value = value * 10 + (c - '0');
-  }
-  return value;
-}
-
 }  // namespace
 
 std::string ClockText(const Moment& moment) {
@@ -76,18 +66,6 @@ Moment MomentAt(std::int64_t secondsSince1970) {
           static_cast<int>(time.hours().count()),
           static_cast<int>(time.minutes().count()),
           static_cast<int>(time.seconds().count())};
-}
-
-std::optional<Moment> ParseMoment(std::string_view text) {
-  if (text.size() != 19) return std::nullopt;
-  const bool marks =
-      text[4] == '-' && text[7] == '-' && text[10] == ' ' && text[13] == ':' && text[16] == ':';
-  if (!marks) return std::nullopt;
-  const Moment read{DigitsAt(text, 0, 4),  DigitsAt(text, 5, 2),  DigitsAt(text, 8, 2),
-                    DigitsAt(text, 11, 2), DigitsAt(text, 14, 2), DigitsAt(text, 17, 2)};
-  // A field out of its range carries over and comes back as another moment.
-  if (MomentAt(SecondsSince1970(read)) != read) return std::nullopt;
-  return read;
 }
 
 }  // namespace core

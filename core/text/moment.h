@@ -2,9 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace core {
 
@@ -32,8 +30,5 @@ std::int64_t SecondsSince1970(const Moment& moment);
 
 // The moment so many seconds after the start of 1970, kept within the years 1 to 9999.
 Moment MomentAt(std::int64_t secondsSince1970);
-
-// Reads "YYYY-MM-DD HH:MM:SS" exactly; nothing if the form or the date is not right.
-std::optional<Moment> ParseMoment(std::string_view text);
 
 }  // namespace core

@@ -39,10 +39,6 @@ std::size_t SequenceLength(std::string_view bytes) {
   return point < lead.least || point > 0x10FFFF || surrogate ? 0 : lead.length;
 }
 
-char UpperOf(char c) {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
 }  // namespace
 
 std::string Trim(std::string_view text) {
@@ -51,19 +47,8 @@ std::string Trim(std::string_view text) {
   return std::string(text.substr(first, text.find_last_not_of(" \t") - first + 1));
 }
 
-std::string UpperAscii(std::string_view text) {
-  std::string upper(text);
-  for (char& c : upper) c = UpperOf(c);
-  return upper;
-}
-
 bool EndsWith(std::string_view text, std::string_view ending) {
   return text.ends_with(ending);
-}
-
-bool EndsWithAnyCase(std::string_view text, std::string_view ending) {
-  if (text.size() < ending.size()) return false;
-  return UpperAscii(text.substr(text.size() - ending.size())) == UpperAscii(ending);
 }
 
 std::string FlagWord(bool flag) {

@@ -1,4 +1,4 @@
-// Small helpers for text: trimming, case, the two flag words, and bytes made fit for showing.
+// Small helpers for text: trimming, the two flag words, and bytes made fit for showing.
 #pragma once
 
 #include <string>
@@ -9,13 +9,7 @@ namespace core {
 // The text without the blanks and tabs at both ends.
 std::string Trim(std::string_view text);
 
-// Letters "a" to "z" become capitals; every other byte stays as it is.
-std::string UpperAscii(std::string_view text);
-
 bool EndsWith(std::string_view text, std::string_view ending);
-
-// EndsWith in which the case of "a" to "z" makes no difference, as for a file's extension.
-bool EndsWithAnyCase(std::string_view text, std::string_view ending);
 
 // "True" or "False", as flags stand in files.
 std::string FlagWord(bool flag);

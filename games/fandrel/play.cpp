@@ -44,6 +44,7 @@ void frmFandrel::StartRound() {
   Deal();
   ShowGoal(values_.BonusScore, " for bonus round.  ");
   StartClock();
+  playing_ = true;
 }
 
 void frmFandrel::Deal() {
@@ -147,6 +148,7 @@ void frmFandrel::ShowMoved(int lower, int upper) {
 
 bool frmFandrel::RoundIsOver(Board board) {
   if (board == Board::MovesLeft) return false;
+  playing_ = false;
   Timer1.Enabled = false;
   Timer6.Enabled = false;
   if (board == Board::AllUsed) {

@@ -20,6 +20,7 @@ core::Vocabulary Words() {
   words.settingsFile = "Fandrel.Ini";
   words.exitTip = "Closes Fandrel";
   words.score = "lblTotalScore";
+  words.welcomeEnd = "   ";
   words.smallestSize = {9540, 7305};
   words.maximizedHeight = "7305";
   words.timeEntries = {{60, "&60 Seconds"},
@@ -89,10 +90,6 @@ frmFandrel::frmFandrel(core::Suite& suite, const core::GameEntry& entry)
   ShowCards(false);
   ShowControls(false, false);
   lblHighScore.Visible = false;
-}
-
-void frmFandrel::Loaded() {
-  StatusBar1(1).Text = "Welcome to " + shared.GameTitle + "   ";
 }
 
 // --- the board ----------------------------------------------------------------------------------
@@ -186,6 +183,7 @@ void frmFandrel::ResumeBoard() {
 }
 
 void frmFandrel::HideAtExpiry() {
+  playing_ = false;
   Timer6.Enabled = false;
   ShowCards(false);
   ShowMoveTimer(false);

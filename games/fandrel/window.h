@@ -28,7 +28,7 @@ class frmFandrel : public core::GameWindow {
  private:
   // Where it differs from the frame.
   std::vector<ui::Timer*> GameTimers() override { return {&Timer1, &Timer6}; }
-  void Loaded() override;
+  bool InRound() const override { return playing_ && GameWindow::InRound(); }
   void PauseBoard() override;
   void ResumeBoard() override;
   void HideAtExpiry() override;
@@ -73,7 +73,8 @@ class frmFandrel : public core::GameWindow {
 
   fandrel::Rules rules_;
   Values values_;
-  int moveTimer_;  ///< the number on show, which multiplies a move's points
+  bool playing_ = false;  ///< from the deal to the end of the round
+  int moveTimer_;         ///< the number on show, which multiplies a move's points
 
   ui::Timer Timer5{this, "Timer5", 250, ui::Timer::At::Off, &frmFandrel::Timer5_Timer};
   ui::Timer Timer6{this, "Timer6", 270, ui::Timer::At::Off, &frmFandrel::Timer6_Timer};

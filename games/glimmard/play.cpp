@@ -102,7 +102,7 @@ void frmPhrase::OpenRound() {
   ShowControls(true, true);
   EnableVowels(false);
   ProgressBar1.Value = 0;
-  Timer1.Enabled = Timer5.Enabled = true;
+  Timer1.Enabled = Timer5.Enabled = !StandsStill();
   StartMusic();
 }
 

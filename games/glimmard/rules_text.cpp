@@ -23,8 +23,7 @@ core::RulesText frmPhrase::Rules() const {
       "random after every letter, and short phrases pay more for a letter than long ones. Digits "
       "and punctuation marks stand open from the start.",
       "The vowels A, E, I, O, U and Y are closed at first. They open as soon as you have found "
-      "your "
-      "first letter.",
+      "your first letter.",
       "You have " + Digits(guesses) + (guesses == 1 ? " guess" : " guesses") +
           " in a round. A letter that is not in the phrase costs one of them. So does the letter "
           "timer, the bar over the alphabet, whenever it fills up before you have chosen: it gives "
@@ -35,10 +34,9 @@ core::RulesText frmPhrase::Rules() const {
       "every letter pays the same amount from then on. But the first wrong letter ends the round, "
       "and so does the letter timer.",
       "Solving the phrase pays " + Masked(values_.CompletionBonus) +
-          " points, each guess that you "
-          "have left " +
-          Masked(values_.GuessBonus) + " points, and each second left on the clock " +
-          Masked(shared.TimeBonusPerSecond) + " points.",
+          " points, each guess that you have left " + Masked(values_.GuessBonus) +
+          " points, and each second left on the clock " + Masked(shared.TimeBonusPerSecond) +
+          " points.",
       "The Bonus Round begins with six picks: five consonants and one vowel, in any order. The "
       "clock stands still meanwhile, but all six have to be made within one run of the letter "
       "timer. Then they are played one after the other, a wrong one costing a guess. After that "

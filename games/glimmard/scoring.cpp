@@ -125,7 +125,7 @@ void frmPhrase::StartRoundTwo() {
   EnableRoundCommands(true);
   PrepareFor("Prepare for Round Two!");
   InitRound();
-  Timer5.Enabled = true;
+  Timer5.Enabled = !StandsStill();
 }
 
 void frmPhrase::StartBonusRound() {
@@ -133,7 +133,7 @@ void frmPhrase::StartBonusRound() {
   PrepareFor("Prepare for Bonus Round!");
   rules_.BonusPicking = true;
   InitRound();
-  Timer5.Enabled = true;
+  Timer5.Enabled = !StandsStill();
 }
 
 void frmPhrase::GameOver() {

@@ -244,9 +244,14 @@ void frmPhrase::EnableSolve(bool enabled) {
 
 // --- pausing ------------------------------------------------------------------------------------
 
-/// Solve It has stopped the round clock for good; a message about the files holds all clocks up.
+/// Solve It closes Pause, but the letter timer goes on; a message about the files holds all up.
+bool frmPhrase::InRound() const {
+  const bool solving = shared.GameActive && rules_.SolveMode && !shared.ScoringBusy;
+  return (solving || GameWindow::InRound()) && !drawingPhrase_;
+}
+
+/// Solve It has stopped the round clock for good.
 std::vector<ui::Timer*> frmPhrase::GameTimers() {
-  if (drawingPhrase_) return {};
   if (rules_.SolveMode && shared.RoundNumber < BonusRound) return {&Timer5};
   return {&Timer1, &Timer5};
 }

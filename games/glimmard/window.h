@@ -29,6 +29,7 @@ class frmPhrase : public core::GameWindow {
  private:
   // Where it differs from the frame. Solve It stands where other games have Take Score.
   std::vector<ui::Timer*> GameTimers() override;
+  bool InRound() const override;
   ui::Button* TakeScoreButton() override { return &cmdSolve; }
   void PauseBoard() override;
   void ResumeBoard() override;

@@ -1,6 +1,4 @@
 // Kestrane's settings file, its scoring dialog, and what counts as default scoring.
-#include <cstdlib>
-
 #include "core/scoring/scoring_dialog.h"
 #include "core/text/number.h"
 #include "games/kestrane/window.h"
@@ -53,14 +51,22 @@ void frmKestrane::ShowScoringDialog() {
 }
 
 std::vector<core::DialogItem> frmKestrane::DialogItems() {
-  auto deck = Amount("txtDeckValue", "Deck Completion Bonus:", &Values::DeckCompletion, 100000,
+  const auto amount = [this](const char* name, const char* label, std::int32_t Values::*value,
+                             std::int32_t most, const std::string& what) {
+    return core::Field(
+        name, label, values_.*value,
+        {Below(0, "Sorry, the minimum value for " + what + " is 0."),
+         Above(most, "Sorry, the maximum value for " + what + " is " + core::Digits(most))},
+        Standard.*value);
+  };
+  auto deck = amount("txtDeckValue", "Deck Completion Bonus:", &Values::DeckCompletion, 100000,
                      "completing the Deck");
   deck.tests[0].message = "Sorry, the minimum value for for completing the Deck is 0.";
-  return {Amount("txtTripValue", "Three of a kind bonus:", &Values::TripsScore, 20000, "a Triple"),
-          Amount("txtRunValue", "Run Bonus:", &Values::RunsScore, 20000, "a Run"),
+  return {amount("txtTripValue", "Three of a kind bonus:", &Values::TripsScore, 20000, "a Triple"),
+          amount("txtRunValue", "Run Bonus:", &Values::RunsScore, 20000, "a Run"),
           deck,
-          Amount("txtFlushValue", "Flush Bonus:", &Values::FlushScore, 20000, "the Flush Bonus"),
-          Amount("txtBonusRound", "Score Required for Bonus Round:", &Values::BonusScore, 1000000,
+          amount("txtFlushValue", "Flush Bonus:", &Values::FlushScore, 20000, "the Flush Bonus"),
+          amount("txtBonusRound", "Score Required for Bonus Round:", &Values::BonusScore, 1000000,
                  "obtaining the Bonus Round"),
           PenaltyField(),
           TimeBonusField(),
@@ -71,28 +77,14 @@ std::vector<core::DialogItem> frmKestrane::DialogItems() {
                           "to be marked with an * indicating custom scoring was in use."}};
 }
 
-/// A field from 0 to `highest`; `what` stands in the messages.
-core::NumberField frmKestrane::Amount(const std::string& name, const std::string& label,
-                                      std::int32_t Values::*value, std::int32_t highest,
-                                      const std::string& what) {
-  return core::Field(
-      name, label, values_.*value,
-      {Below(0, "Sorry, the minimum value for " + what + " is 0."),
-       Above(highest, "Sorry, the maximum value for " + what + " is " + core::Digits(highest))},
-      Standard.*value);
-}
-
 /// The penalty is shown as a negative number and kept as a positive one.
 core::NumberField frmKestrane::PenaltyField() {
   auto field =
       core::Field("txtPenaltyValue", "Penalty for left-over cards:", values_.LeftOverCards,
                   {Below(-20000, "Sorry, the minimum penalty for left over cards is -20000"),
                    Above(0, "Sorry, the maximum penalty for left over cards is 0.")},
-                  -Standard.LeftOverCards);
+                  -Standard.LeftOverCards, -1);
   field.show = [this] { return "-" + core::Digits(values_.LeftOverCards); };
-  field.store = [this](double number) {
-    values_.LeftOverCards = core::ClampTo<std::int32_t>(std::abs(core::RoundToEven(number)));
-  };
   return field;
 }
 

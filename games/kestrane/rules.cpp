@@ -9,16 +9,7 @@
 namespace games::kestrane {
 namespace {
 
-constexpr int LastRound = 3;
 constexpr int DeckSize = 52;
-// The stack's pictures, each up to this count of cards dealt.
-constexpr int LastFull = 19;
-constexpr int LastHalf = 35;
-constexpr int LastBack = 51;
-
-bool Exists(Spot spot) {
-  return std::ranges::find(AllSpots, spot) != AllSpots.end();
-}
 
 // Only the order in which the cards lie counts, and the ace joins the king at one end alone.
 bool IsRun(int a, int b, int d) {
@@ -31,18 +22,11 @@ bool IsRun(int a, int b, int d) {
 
 }  // namespace
 
-// --- rounds -------------------------------------------------------------------------------------
-
-void Rules::InitRound() {
-  ColumnCards.fill("");
-  UpCards.fill("");
-  TempCards.fill("");
-  EndSelection();
-  TripCount = RunCount = 0;
-}
-
 void Rules::Deal() {
-  InitRound();
+  ColumnCards.fill("");
+  TempCards.fill("");
+  Select({});
+  TripCount = RunCount = 0;
   UpCards = {deck_(1), deck_(2), deck_(3)};
   DeckIndex = UpCardCount;
 }
@@ -53,10 +37,8 @@ void Rules::UpDateDeck() {
 }
 
 bool Rules::EarnsNextRound(std::int64_t score, std::int64_t bonusScore) const {
-  return RoundNumber == 1 || (RoundNumber < LastRound && score >= bonusScore);
+  return RoundNumber == 1 || (RoundNumber < BonusRound && score >= bonusScore);
 }
-
-// --- the board ----------------------------------------------------------------------------------
 
 std::string& Rules::CardAt(Spot spot) {
   const auto index = static_cast<std::size_t>(spot.index);
@@ -65,8 +47,7 @@ std::string& Rules::CardAt(Spot spot) {
 }
 
 const std::string& Rules::KeyAt(Spot spot) const {
-  static const std::string none;
-  return Exists(spot) ? const_cast<Rules*>(this)->CardAt(spot) : none;
+  return const_cast<Rules*>(this)->CardAt(spot);
 }
 
 int Rules::TopSlot(int column) const {
@@ -76,14 +57,13 @@ int Rules::TopSlot(int column) const {
 }
 
 bool Rules::NoMoveLeft() const {
-  const auto taken = [](const std::string& key) { return !key.empty(); };
-  return std::ranges::all_of(TempCards, taken) && std::ranges::all_of(ColumnCards, taken);
+  return std::ranges::count(TempCards, "") + std::ranges::count(ColumnCards, "") == 0;
 }
 
 std::string_view Rules::StackPicture() const {
-  if (DeckIndex <= LastFull) return "FULL";
-  if (DeckIndex <= LastHalf) return "HALF";
-  return DeckIndex <= LastBack ? "BACK" : "EMPTY";
+  if (DeckIndex < 20) return "FULL";
+  if (DeckIndex < 36) return "HALF";
+  return DeckIndex < DeckSize ? "BACK" : "EMPTY";
 }
 
 Spot Rules::NextLeftOver() const {
@@ -94,18 +74,17 @@ Spot Rules::NextLeftOver() const {
 }
 
 void Rules::TakeOff(Spot spot) {
-  if (!Exists(spot)) return;
-  if (spot == Selected()) EndSelection();
+  if (spot == Selected()) Select({});
   CardAt(spot).clear();
 }
 
 // --- selecting and moving -----------------------------------------------------------------------
 
 Answer Rules::AnswerTo(Spot spot) const {
-  if (!Exists(spot) || (spot.area == Area::UpCards && spot.index != Front)) return Answer::Refused;
+  if (spot.area == Area::UpCards && spot.index != Front) return Answer::Refused;
   const bool inField = spot.area == Area::Field;
   if (inField) spot.index %= Columns;
-  if (!CardSelected) return HasCard(spot) ? Answer::Select : Answer::Refused;
+  if (!CardSelected()) return HasCard(spot) ? Answer::Select : Answer::Refused;
   const int selected = inField ? SelectedIndex % Columns : SelectedIndex;
   if (spot == Spot{SelectedArea, selected}) return Answer::Cancel;
   const bool full = inField ? ColumnFull(spot.index) : HasCard(spot);
@@ -115,33 +94,27 @@ Answer Rules::AnswerTo(Spot spot) const {
 Answer Rules::Click(Spot spot) {
   const Answer answer = AnswerTo(spot);
   if (answer == Answer::Select) Select(spot);
-  if (answer == Answer::Cancel) EndSelection();
+  if (answer == Answer::Cancel) Select({});
   if (answer == Answer::Move) MoveCard(spot);
   return answer;
 }
 
+/// Of a column the top card; no spot ends the selection.
 void Rules::Select(Spot spot) {
   if (spot.area == Area::Field) spot.index = TopSlot(spot.index % Columns);
-  CardSelected = true;
   SelectedArea = spot.area;
   SelectedIndex = static_cast<std::int16_t>(spot.index);
-}
-
-void Rules::EndSelection() {
-  CardSelected = false;
-  SelectedArea = Area::None;
-  SelectedIndex = -1;
 }
 
 void Rules::MoveCard(Spot& spot) {
   if (spot.area == Area::Field) spot.index = TopSlot(spot.index % Columns) + Columns;
   CardAt(spot) = std::exchange(CardAt(Selected()), "");
   if (SelectedArea == Area::UpCards) UpDateDeck();
-  EndSelection();
+  Select({});
 }
 
 Made Rules::CheckColumn(int column) {
-  if (column < 0 || column >= Columns || !ColumnFull(column)) return Made::Nothing;
+  if (!ColumnFull(column)) return Made::Nothing;
   const auto rank = [&](int row) { return core::RankOf(KeyAt({Area::Field, row + column})); };
   const int a = rank(0), b = rank(Columns), d = rank(LastRow);
   const bool trip = a == b && b == d;

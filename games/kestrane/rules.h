@@ -31,6 +31,7 @@ inline constexpr int Slots = 12;
 inline constexpr int StorageSpots = 3;
 inline constexpr int UpCardCount = 3;
 inline constexpr int Front = 2;  // the one up card that can be played
+inline constexpr int BonusRound = 3;
 
 /// Every place of the board, in order.
 inline constexpr auto AllSpots = [] {
@@ -42,16 +43,15 @@ inline constexpr auto AllSpots = [] {
   return spots;
 }();
 
-/// The cards of a round and the counts of a game. Any order of calls and any place is tolerated:
-/// one that does not exist holds no card and refuses every click.
+/// The cards of a round and the counts of a game. Calls may come in any order; a place that does
+/// not exist throws.
 class Rules {
  public:
   /// The deck is the caller's, who shuffles it before each deal, and outlives the rules.
   explicit Rules(const core::Deck& deck) : deck_(deck) {}
 
-  /// Clears the board, the selection and the round's counts.
-  void InitRound();
-  /// Turns up the first three cards of the deck; the third lies in front.
+  /// A clear board without a selection, counts of 0, and the first three cards of the deck turned
+  /// up; the third lies in front.
   void Deal();
   /// After a round: round two follows always, the third only at `bonusScore` or more.
   bool EarnsNextRound(std::int64_t score, std::int64_t bonusScore) const;
@@ -73,6 +73,7 @@ class Rules {
   /// The key of a card; empty where none lies.
   const std::string& KeyAt(Spot spot) const;
   bool HasCard(Spot spot) const { return !KeyAt(spot).empty(); }
+  bool CardSelected() const { return SelectedArea != Area::None; }
   Spot Selected() const { return {SelectedArea, SelectedIndex}; }
   /// Key of the picture of the stack.
   std::string_view StackPicture() const;
@@ -83,7 +84,6 @@ class Rules {
   std::array<std::string, UpCardCount> UpCards;
   std::array<std::string, StorageSpots> TempCards;
   std::int16_t DeckIndex = UpCardCount;
-  bool CardSelected = false;
   Area SelectedArea = Area::None;
   std::int16_t SelectedIndex = -1;
   std::int16_t TripCount = 0;
@@ -98,7 +98,6 @@ class Rules {
   int TopSlot(int column) const;  // column - 4 for an empty column
   bool ColumnFull(int column) const { return HasCard({Area::Field, LastRow + column}); }
   void Select(Spot spot);
-  void EndSelection();
   void MoveCard(Spot& spot);
   void UpDateDeck();
   bool CheckFlush(int column) const;

@@ -11,6 +11,7 @@ constexpr ui::Size Mark{71, 97};
 constexpr int SmallestHeight = 410;  // of the inner area
 constexpr int ButtonsWidth = 84;
 constexpr int RowStep = 26;
+constexpr int TitleOffset = 100 / ui::TwipsPerPixel;  // of the speed bonus, from its amount
 
 /// Where the first card of an area stands, and how far the next one is from it.
 struct Row {
@@ -95,7 +96,7 @@ void frmKestrane::PlaceBoard(ui::Size inner) {
   core::CenterIn(lblCardCount, {middle - 270, deckTop + 36, 146, 20});
   const ui::Rect outline{inner.w / 2 - 170, deckTop, 340, 98};
   ScoringLabelOutline.Place = outline;
-  core::CenterIn(lblMessage, {outline.x, outline.y + 4, outline.w, 28});
+  core::CenterIn(lblMessage, {outline.x - TitleOffset, outline.y + 4, outline.w, 28});
   core::CenterIn(Message, {outline.x, outline.y + 34, outline.w, 30});
 }
 
@@ -128,16 +129,14 @@ ui::Shape& frmKestrane::MarkOf(Spot spot) {
 }
 
 // A column shows only in its first row that it is empty.
-void frmKestrane::ShowCard(Spot spot) {
-  ui::Picture& picture = PictureOf(spot);
-  const bool vanishes = spot.area == Area::Field && spot.index >= Columns;
-  picture.Border = rules_.HasCard(spot);
-  picture.Show(picture.Border ? rules_.KeyAt(spot) : vanishes ? "" : "EMPTY");
-  if (vanishes) picture.Visible = rules_.HasCard(spot);
-}
-
 void frmKestrane::ShowField() {
-  for (Spot spot : AllSpots) ShowCard(spot);
+  for (Spot spot : AllSpots) {
+    ui::Picture& picture = PictureOf(spot);
+    const bool vanishes = spot.area == Area::Field && spot.index >= Columns;
+    picture.Border = rules_.HasCard(spot);
+    picture.Show(picture.Border ? rules_.KeyAt(spot) : vanishes ? "" : "EMPTY");
+    if (vanishes) picture.Visible = rules_.HasCard(spot);
+  }
 }
 
 void frmKestrane::UpDateDeck() {
@@ -203,8 +202,6 @@ void frmKestrane::HideAtExpiry() {
   lblCardCount.Visible = false;
   Wave("Slide.wav");
 }
-
-// --- the pointer --------------------------------------------------------------------------------
 
 void frmKestrane::PointAt(Spot spot) {
   PictureOf(spot).Pointer = rules_.AnswerTo(spot) == Answer::Refused ? "" : "POINTER";

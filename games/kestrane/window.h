@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/scoring/scoring_table.h"
+#include "core/session/bonus_counter.h"
 #include "core/session/game_window.h"
 #include "games/kestrane/rules.h"
 #include "games/kestrane/settings.h"
@@ -36,7 +37,7 @@ class frmKestrane : public core::GameWindow {
   void StartGame();
   void GiveUp();
   void InitRound();
-  bool Deal();
+  void Deal();
 
   // The moves.
   void UpCard_Click(int i) { ClickOn({Area::UpCards, i}); }
@@ -59,7 +60,6 @@ class frmKestrane : public core::GameWindow {
   void PlaceCards(int middle, int storageTop, int fieldTop, int deckTop);
   ui::Picture& PictureOf(Spot spot);
   ui::Shape& MarkOf(Spot spot);
-  void ShowCard(Spot spot);
   void ShowField();
   void UpDateDeck();
   void ShowDeck(bool visible);
@@ -72,9 +72,6 @@ class frmKestrane : public core::GameWindow {
 
   // The scoring dialog.
   std::vector<core::DialogItem> DialogItems();
-  core::NumberField Amount(const std::string& name, const std::string& label,
-                           std::int32_t Values::*value, std::int32_t highest,
-                           const std::string& what);
   core::NumberField PenaltyField();
   core::NumberField TimeBonusField();
 
@@ -102,6 +99,7 @@ class frmKestrane : public core::GameWindow {
   ui::Label lblFlush{this, "lblFlush", "Flush!"};
   ui::Button cmdTakeScore{this, "cmdTakeScore", "&Take Score", "Ends the round and awards points",
                           &frmKestrane::cmdTakeScore_Click};
+  core::BonusCounter bonuses_{*this, suite, Clock, {lblMessage, Message, Score.Number}};
 };
 
 }  // namespace games::kestrane

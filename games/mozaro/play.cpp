@@ -48,7 +48,7 @@ void frmMozaro::EndGame() {
   ShowScoreGroup(true);
   Score.Number.Visible = true;
   ScoringLabelOutline.Visible = Message.Visible = false;
-  Timer1.Enabled = Timer2.Enabled = false;
+  Timer1.Enabled = false;
   ShowTitle(true);
   StatusBar1(1).Text = "Welcome to " + shared.GameTitle + PanelEnd;
   StatusBar1(2).Text = "";

@@ -38,7 +38,8 @@ void frmOstrel::StartRound() {
 }
 
 bool frmOstrel::InitRound() {
-  if (shared.ScoringBusy) ServeAndDrop();
+  // What the player did while a round was being scored has no effect.
+  shared.ScoringBusy ? ServeAndDrop() : ServeEvents();
   if (!suite.CreateDeck() || !suite.ShuffleDeck()) return false;
   HideMessage();
   shared.ElapsedSeconds = 0;

@@ -84,6 +84,7 @@ void frmOstrel::GameOver() {
   FinishGame();
   imgBackGround.Visible = false;
   ShowGameOver(GameOverPause);
+  ServeAndDrop();
   shared.ScoringBusy = false;
 }
 

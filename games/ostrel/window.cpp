@@ -43,10 +43,6 @@ core::Vocabulary Words() {
                        {45, "&45 seconds (default)"},
                        {60, "&60 seconds"},
                        {90, "&90 seconds "}};
-  words.deckEntries = {{"mnuPalm", "&Palm Tree", core::Design::Palm, 1},
-                       {"mnuMagic", "&Magic Hands", core::Design::Magic, 2},
-                       {"mnuNight", "&Night Castle", core::Design::Night, 3},
-                       {"mnuHot", "&Hot Cards", core::Design::Hot, 4}};
   words.fixedInGame = {"mnuClearHighRun"};
   return words;
 }
@@ -57,34 +53,26 @@ frmOstrel::frmOstrel(core::Suite& suite, const core::GameEntry& entry)
     : GameWindow(suite, entry, Words()) {
   using core::Command;
   BuildMenu({
-      {"mnuGame",
-       "&Game",
-       Command::Other,
-       {},
-       {{"mnuPlay", "&Play", Command::Play},
-        {"mnuPause", "Pau&se", Command::Pause},
-        {"mnuTakeScore", "&Take Score", Command::TakeScore},
-        {"mnuExit", "E&xit", Command::Exit}}},
-      {"mnuOptions",
-       "&Options",
-       Command::Other,
-       {},
-       {{"mnuViewHiScore", "&View High Scores...", Command::ViewHighScores},
-        {"mnuClearHighScores", "&Clear High Scores...", Command::ClearHighScores},
-        {"mnuClearHighRun", "Clear &High Run", Command::Other, [this] { mnuClearHighRun_Click(); }},
-        {"mnuMusic", "Play &Music (plays during game)", Command::Music},
-        {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
-        {"mnuSounds", "&Play Sounds", Command::Sounds},
-        {"mnuCustom", "&User Options...", Command::Custom},
-        {"mnuTime", "&Time Limit", Command::Time, {}, TimeRows()}}},
-      {"mnuDeck", "Dec&k", Command::Other, {}, DeckRows()},
-      {"mnuHelp",
-       "&Help",
-       Command::Other,
-       {},
-       {{"mnuRules", "&Rules", Command::Rules},
-        {"mnuReadme", "&View Readme File", Command::Readme},
-        {"mnuAbout", "&About", Command::About}}},
+      core::Heading("mnuGame", "&Game",
+                    {{"mnuPlay", "&Play", Command::Play},
+                     {"mnuPause", "Pau&se", Command::Pause},
+                     {"mnuTakeScore", "&Take Score", Command::TakeScore},
+                     {"mnuExit", "E&xit", Command::Exit}}),
+      core::Heading("mnuOptions", "&Options",
+                    {{"mnuViewHiScore", "&View High Scores...", Command::ViewHighScores},
+                     {"mnuClearHighScores", "&Clear High Scores...", Command::ClearHighScores},
+                     {"mnuClearHighRun", "Clear &High Run", Command::Other,
+                      [this] { mnuClearHighRun_Click(); }},
+                     {"mnuMusic", "Play &Music (plays during game)", Command::Music},
+                     {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
+                     {"mnuSounds", "&Play Sounds", Command::Sounds},
+                     {"mnuCustom", "&User Options...", Command::Custom},
+                     {"mnuTime", "&Time Limit", Command::Time, {}, TimeRows()}}),
+      core::Heading("mnuDeck", "Dec&k", DeckRows()),
+      core::Heading("mnuHelp", "&Help",
+                    {{"mnuRules", "&Rules", Command::Rules},
+                     {"mnuReadme", "&View Readme File", Command::Readme},
+                     {"mnuAbout", "&About", Command::About}}),
   });
   for (int tower = 1; tower <= Towers; ++tower) {
     TowerLabel(tower).Text = "Tower " + core::Digits(tower) + " Completed!";

@@ -61,6 +61,7 @@ void frmPellow::PrepareFor(const std::string& title, const std::string& wave) {
 void frmPellow::GameOver() {
   Hourglass = false;
   FinishGame();
+  EnablePlayAndExit();
   ShowGameOver(GameOverPause);
   ServeAndDrop();
   shared.ScoringBusy = false;

@@ -103,7 +103,7 @@ void frmQuindle::StartRoundClock() {
   Clock.InitTimerFace();
   Clock.WriteTime();
   Timer1.Enabled = false;
-  Timer1.Enabled = !rules_.EnhancedScoring;
+  Timer1.Enabled = !rules_.EnhancedScoring && !StandsStill();
 }
 
 void frmQuindle::ChooseRoundDeck(int round) {
@@ -207,9 +207,9 @@ void frmQuindle::CheckTotal() {
     TakeSetOff(set);
     if (rules_.CheckForCompletion()) {
       TakeScoreOrReplay();
-      return;
+    } else if (set.upCardUsed && UpCardPicture.Key() == "EMPTY") {
+      DrawCard(false);
     }
-    if (set.upCardUsed && UpCardPicture.Key() == "EMPTY") DrawCard(false);
   }
   ShowUpCardWorth();
 }

@@ -58,7 +58,6 @@ class Rules {
 
   bool HoldsCard(int slot) const { return holds_[Index(slot)]; }
   bool IsSelected(int slot) const { return selected_[Index(slot)]; }
-  bool UpCardSelected() const { return upSelected_; }
   const std::string& FieldCard(int slot) const { return FieldCards[Index(slot)]; }
   /// The top of the up pile; empty when there is none.
   std::string UpCard() const;

@@ -63,6 +63,7 @@ class Reader {
     const std::int64_t goal = core::WholeIn(Value());
     if (goal < SmallestGoal || goal > LargestGoal) return;
     game_.CardGoal = static_cast<std::int16_t>(goal);
+    game_.goalChosen = true;
     const auto size = static_cast<std::size_t>(DeckSize(game_.CardGoal));
     for (RoundDeck& deck : game_.decks) deck.assign(size, "");
   }
@@ -112,7 +113,7 @@ std::string FormatSavedGame(const SavedGame& game) {
 
 std::optional<SavedGame> ParseSavedGame(std::string_view text, const SavedGame& current) {
   SavedGame game = current;
-  game.timeLimit = game.score = game.userName = "";
+  game.score = game.userName = "";
   game.custom = false;
   Reader reader(text, game);
   if (!reader.Read()) return std::nullopt;

@@ -21,6 +21,7 @@ struct SavedGame {
   bool custom = false;
   std::string userName;
   std::array<RoundDeck, RoundDecks> decks;
+  bool goalChosen = false;  ///< the file names a goal that can be chosen
   bool whole = false;  ///< nothing was missing or cut short
 };
 

@@ -1,5 +1,5 @@
 // Saving the last game, and opening a saved one for a replay.
-#include <stdexcept>
+#include <utility>
 
 #include "core/files/files.h"
 #include "core/text/number.h"
@@ -13,10 +13,8 @@ const std::string Filter = "Quindle Games (*.qdl)|*.qdl";
 }  // namespace
 
 void frmQuindle::Activate() {
-  if (!suite.commandLine) return;
-  const std::string path = *suite.commandLine;
-  suite.commandLine.reset();
-  OpenSavedGame(path);
+  if (std::exchange(activated_, true) || !suite.commandLine) return;
+  OpenSavedGame(*suite.commandLine);
 }
 
 SavedGame frmQuindle::GameToSave() const {
@@ -26,6 +24,7 @@ SavedGame frmQuindle::GameToSave() const {
           .custom = shared.CustomScoring,
           .userName = shared.PlayerName,
           .decks = RoundDeck_,
+          .goalChosen = false,
           .whole = true};
 }
 
@@ -55,7 +54,7 @@ bool frmQuindle::OpenSavedGame(const std::string& path) {
   const auto text = core::ReadWhole(path);
   const auto game = text ? ParseSavedGame(*text, GameToSave()) : std::nullopt;
   if (!game) return false;
-  if (game->CardGoal != rules_.CardGoal) ChooseGoal(game->CardGoal);
+  if (game->goalChosen) ChooseGoal(game->CardGoal);
   RoundDeck_ = game->decks;
   if (!game->whole) return false;
   TakeTimeLimitOf(*game);

@@ -132,6 +132,8 @@ void frmQuindle::Loaded() {
   if (ui::Menu* mark = Menus.Named("mnuDrawTimer")) mark->Checked = shared.CountDownScoring;
   Menus.Named("mnuSave")->Enabled = false;
   Title.imgSplashImage.ForEach([](int, ui::Picture& picture) { picture.Show("QDLE"); });
+  FieldCardPicture.ForEach([](int, ui::Picture& picture) { picture.Pointer = "POINTER"; });
+  PlayCardPicture.Pointer = UpCardPicture.Pointer = "POINTER";
 }
 
 void frmQuindle::ShowModeInCaption() {
@@ -279,6 +281,12 @@ void frmQuindle::ResumeBoard() {
 void frmQuindle::HideAtExpiry() {
   ShowLowerCards(false);
   HideSelection();
+}
+
+/// What it leads to is a click on Take Score, after which the music plays.
+void frmQuindle::TimeIsUp() {
+  GameWindow::TimeIsUp();
+  if (GameInProgress) StartMusic();
 }
 
 // --- the pointer --------------------------------------------------------------------------------

@@ -38,6 +38,7 @@ class frmQuindle : public core::GameWindow {
   void PauseBoard() override;
   void ResumeBoard() override;
   void HideAtExpiry() override;
+  void TimeIsUp() override;
   void PlayMenu_Click() override;
   void DeckChosen() override { RefreshPlayCard(); }
   void RedrawPausedCards() override { TurnFieldCards(false); }
@@ -127,6 +128,7 @@ class frmQuindle : public core::GameWindow {
   std::int16_t QuindleRound = 1;
   bool GameInProgress = false;
   bool ReplayGame = false;
+  bool activated_ = false;
   int SelectionColorIndex = 1;
 
   ui::Array<ui::Picture> FieldCardPicture{this,

@@ -101,7 +101,10 @@ core::ScoringTable frmVermoy::ScoringTableOfDialog() {
   table.items.push_back(timeBonus);
   table.items.push_back(core::CheckField{"chkCountDown", "&Count Down when taking score",
                                          [this] { return shared.CountDownScoring; }});
-  table.defaults = [this](core::ScoringDialog&) { ChooseTimeLimit(StandardTimeLimit); };
+  table.defaults = [this](core::ScoringDialog&) {
+    shared.CountDownScoring = true;
+    ChooseTimeLimit(StandardTimeLimit);
+  };
   return table;
 }
 

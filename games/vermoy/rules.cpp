@@ -6,12 +6,6 @@
 #include "core/text/number.h"
 
 namespace games::vermoy {
-namespace {
-
-constexpr int ThickStack = 25;  // a stack of more cards looks full
-constexpr int ThinStack = 12;   // a stack of more cards looks halved
-
-}  // namespace
 
 void TransposeGrid(Grid& grid) {
   for (std::size_t row = 0; row < Side; ++row) {
@@ -107,8 +101,8 @@ bool Rules::GridIsFull() const {
 }
 
 std::string_view Rules::StackPicture() const {
-  if (cardsRemaining_ > ThickStack) return "FULL";
-  if (cardsRemaining_ > ThinStack) return "HALF";
+  if (cardsRemaining_ > 25) return "FULL";
+  if (cardsRemaining_ > 12) return "HALF";
   return cardsRemaining_ < 1 ? "EMPTY" : "BACK";
 }
 

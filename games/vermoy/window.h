@@ -34,6 +34,8 @@ class frmVermoy : public core::GameWindow {
   void WarnOfTime() override {}
   void TimeIsUp() override;
   void DeckChosen() override { ShowStack(); }
+  /// A game given up is no matter for the next window's score.
+  void Closing() override { shared.SkipHighScoreUpdate = false; }
 
   // Playing a game.
   void StartGame();

@@ -5,10 +5,8 @@
 #include <iterator>
 
 #include "apps/pastimo-script/program_subject.h"
-#include "core/launcher/program.h"
-#include "games/catalogue.h"
+#include "apps/pastimo/program.h"
 #include "tests/desktop/probe.h"
-#include "ui/qt/platform.h"
 
 namespace {
 
@@ -33,13 +31,12 @@ void Stage(app::StagedChance& chance, const std::string& verb, std::istream& wor
 }  // namespace
 
 int main(int argc, char** argv) {
-  ui::qt::QtPlatform platform(argc, argv, {core::DataDirectory() + "pictures"},
-                              std::make_unique<ShortWaits>());
   app::StagedChance chance;
-  core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""),
-                        argc > 1 ? argv[1] : "");
-  program.Start();
-  const Probe probe(
-      platform, [&](const std::string& verb, std::istream& words) { Stage(chance, verb, words); });
-  return platform.Exec();
+  std::unique_ptr<Probe> probe;
+  const auto started = [&](ui::qt::QtPlatform& platform) {
+    probe = std::make_unique<Probe>(platform, [&](const std::string& verb, std::istream& words) {
+      Stage(chance, verb, words);
+    });
+  };
+  return apps::RunPastimo(argc, argv, started, {std::make_unique<ShortWaits>(), &chance});
 }

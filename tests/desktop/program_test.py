@@ -51,6 +51,7 @@ def without_a_mouse(display):
     program.ready("frmHarvelCustomScoring")
     program.keys("Tab")
     program.type("1234")
+    display.shot("/tmp/desk_shots/typed.png")
     program.keys("alt+s", "Return")
     program.ready("box The scoring options for Harvel! are not set to their default settings.")
     program.keys("Return")

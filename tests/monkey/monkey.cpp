@@ -26,6 +26,7 @@ struct Monkey::Run {
   Run(Monkey& monkey) : program(platform, chance, monkey.catalogue_, monkey.home_, "") {}
 
   ui::HeadlessPlatform platform;
+  ui::script::Stage& stage = platform.Stage();
   core::Chance chance;
   core::Program program;
 };
@@ -43,10 +44,10 @@ bool Monkey::Play(std::int64_t steps) {
 void Monkey::PlayOneRun() {
   Run run(*this);
   run_ = &run;
-  run.platform.Listen({[](const std::string&) {},
+  run.stage.Listen({[](const std::string&) {},
                        [this](const std::function<bool()>& over) { Converse(over); }, [] {}});
-  run.platform.Start([&run] { run.program.Start(); });
-  while (!Enough() && !run.platform.Ended()) {
+  run.stage.Start([&run] { run.program.Start(); });
+  while (!Enough() && !run.stage.Ended()) {
     Step();
     if (run.platform.HandlerAtWork()) Fail("a handler is left at work");
   }
@@ -60,7 +61,7 @@ void Monkey::Converse(const std::function<bool()>& over) {
   while (!over()) {
     if (!run_ || Enough() || depth_ > DeepestTalk || Below(3) == 0) {
       const auto standing =
-          run_ ? run_->platform.AllStanding() : std::vector<ui::script::Standing>();
+          run_ ? run_->stage.AllStanding() : std::vector<ui::script::Standing>();
       if (standing.empty()) break;
       Answer(standing.front());
     } else {
@@ -81,14 +82,14 @@ void Monkey::Answer(const ui::script::Standing& standing) {
     }
   } else if (standing.what == What::FileDialog) {
     if (Below(2)) {
-      run_->platform.PlayerGivesPath(AnyPath());
+      run_->stage.PlayerGivesPath(AnyPath());
     } else {
-      run_->platform.PlayerGivesPath(std::nullopt);
+      run_->stage.PlayerGivesPath(std::nullopt);
     }
   } else if (standing.buttons == ui::Buttons::YesNo) {
-    run_->platform.PlayerAnswers(Below(2) ? ui::Answer::Yes : ui::Answer::No);
+    run_->stage.PlayerAnswers(Below(2) ? ui::Answer::Yes : ui::Answer::No);
   } else {
-    run_->platform.PlayerAnswers(standing.buttons == ui::Buttons::OkCancel && Below(2)
+    run_->stage.PlayerAnswers(standing.buttons == ui::Buttons::OkCancel && Below(2)
                                      ? ui::Answer::Cancel
                                      : ui::Answer::Ok);
   }
@@ -97,8 +98,8 @@ void Monkey::Answer(const ui::script::Standing& standing) {
 void Monkey::Step() {
   ++done_;
   if (!run_->platform.ActiveWindow()) {
-    run_->platform.PassTime(10);
-    run_->platform.Settle();
+    run_->stage.PassTime(10);
+    run_->stage.Settle();
     return;
   }
   static constexpr Act acts[] = {&Monkey::UseControl,
@@ -112,7 +113,7 @@ void Monkey::Step() {
                                  &Monkey::Wait,
                                  &Monkey::QueueSomething};
   (this->*acts[Below(static_cast<int>(std::size(acts)))])();
-  if (depth_ == 0) run_->platform.Settle();
+  if (depth_ == 0) run_->stage.Settle();
   CheckWindows();
   if (done_ % StepsBetweenFileChecks == 0) CheckFiles();
 }
@@ -130,7 +131,7 @@ ui::Control* Monkey::AnyControl(bool usable) {
 
 /// A message box or a file dialog: the windows beneath take no input.
 bool Monkey::BoxStands() const {
-  const auto standing = run_->platform.AllStanding();
+  const auto standing = run_->stage.AllStanding();
   return !standing.empty() && standing.front().what != ui::script::Standing::What::ModalWindow;
 }
 
@@ -144,30 +145,30 @@ void Monkey::UseControl() {
 }
 
 void Monkey::Use(ui::Control& control) {
-  ui::HeadlessPlatform& platform = run_->platform;
+  ui::script::Stage& stage = run_->stage;
   if (Below(8) == 0) {
-    platform.PlayerMoves(control, {Below(control.Place().w + 2), Below(control.Place().h + 2)});
+    stage.PlayerMoves(control, {Below(control.Place().w + 2), Below(control.Place().h + 2)});
     return;
   }
   switch (control.GetKind()) {
     case ui::Kind::Field: {
       auto& field = static_cast<ui::Field&>(control);
-      if (!field.ReadOnly()) platform.PlayerTypes(field, AnyText());
+      if (!field.ReadOnly()) stage.PlayerTypes(field, AnyText());
       break;
     }
     case ui::Kind::List: {
       auto& list = static_cast<ui::List&>(control);
       if (!list.Items().empty()) {
-        platform.PlayerChooses(list, Below(static_cast<int>(list.Items().size())));
+        stage.PlayerChooses(list, Below(static_cast<int>(list.Items().size())));
       }
       break;
     }
     case ui::Kind::Surface:
-      platform.PlayerPresses(static_cast<ui::Surface&>(control),
+      stage.PlayerPresses(static_cast<ui::Surface&>(control),
                              {Below(control.Place().w + 2), Below(control.Place().h + 2)});
       break;
     default:
-      platform.PlayerClicks(control);
+      stage.PlayerClicks(control);
   }
 }
 
@@ -176,14 +177,14 @@ void Monkey::UseSomethingThatIsNot() {
   ui::Window* window = run_->platform.ActiveWindow();
   switch (Below(3)) {
     case 0:
-      run_->platform.PlayerMovesBeside(*window);
+      run_->stage.PlayerMovesBeside(*window);
       break;
     case 1:
-      run_->platform.PlayerStrikes(*window, static_cast<char32_t>('A' + Below(60)));
+      run_->stage.PlayerStrikes(*window, static_cast<char32_t>('A' + Below(60)));
       break;
     default:
       if (ui::Control* control = AnyControl(true)) {
-        run_->platform.PlayerMoves(*control, {-5, 100000});
+        run_->stage.PlayerMoves(*control, {-5, 100000});
       }
   }
 }
@@ -193,30 +194,30 @@ void Monkey::UseWindow() {
   ui::Window* window = run_->platform.ActiveWindow();
   switch (Below(6)) {
     case 0:
-      if (Below(4) == 0) run_->platform.PlayerCloses(*window);
+      if (Below(4) == 0) run_->stage.PlayerCloses(*window);
       break;
     case 1:
       if (window->Resizable) {
-        run_->platform.PlayerResizes(*window, {Below(20000), Below(20000)});
+        run_->stage.PlayerResizes(*window, {Below(20000), Below(20000)});
       }
       break;
     default:
       if (window->Resizable) {
-        run_->platform.PlayerSetsState(*window, static_cast<ui::WindowState>(Below(3)));
+        run_->stage.PlayerSetsState(*window, static_cast<ui::WindowState>(Below(3)));
       }
   }
 }
 
 void Monkey::Wait() {
   static constexpr int times[] = {0, 1, 90, 250, 1000, 5000, 30000};
-  run_->platform.PassTime(times[Below(static_cast<int>(std::size(times)))]);
+  run_->stage.PassTime(times[Below(static_cast<int>(std::size(times)))]);
 }
 
 void Monkey::QueueSomething() {
   ui::Control* control = AnyControl(true);
   if (!control) return;
   ui::Window* window = &control->Owner();
-  run_->platform.Queue([this, window, control] {
+  run_->stage.Queue([this, window, control] {
     if (!run_ || run_->platform.ActiveWindow() != window || BoxStands()) return;
     const auto& controls = window->Controls();
     const bool there = std::find(controls.begin(), controls.end(), control) != controls.end();
@@ -247,7 +248,8 @@ void Monkey::CheckFiles() {
       // Tables within reach, so that the monkey comes to the windows behind a good score.
       core::WriteWhole(entry.path().string(), core::FormatTable(core::NewTable(Below(500))));
     }
-    if (core::EndsWithAnyCase(name, ".ini") && !core::EndsWith(*text, "\r\n\r\n")) Fail(name);
+    const bool settings = core::EndsWith(name, ".ini") || core::EndsWith(name, ".Ini");
+    if (settings && !core::EndsWith(*text, "\r\n\r\n")) Fail(name);
     if (name.starts_with(".pastimo-")) Fail("left over: " + name);
   }
 }

@@ -10,7 +10,7 @@ int main(int count, char** words) {
   using ui::script::ScriptOptions;
   const auto options = ScriptOptions::Parse(std::vector<std::string>(words + 1, words + count));
   fake::Program program;
-  ui::script::Interpreter interpreter(program.platform, program.subject, std::cin, std::cout);
+  ui::script::Interpreter interpreter(program.platform.Stage(), program.subject, std::cin, std::cout);
   for (const std::string& fault : options.faults) interpreter.SetFault(fault);
   interpreter.Play([&] {
     std::ifstream preset(options.home + "/preset.txt");

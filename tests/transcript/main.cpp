@@ -112,13 +112,37 @@ class Player {
       case Part::Kind::NoFile:
         if (fs::exists(PathOf(part))) Complain(part, {"  the file is there"});
         return;
+      case Part::Kind::Repeat:
+        for (int times = std::stoi(part.text); times > 0; --times) PlayLines(part);
+        return;
       case Part::Kind::Start:
         Start();
         break;
       case Part::Kind::Command:
-        process_->Send(Meant(part.text));
+        return Judge(part, CompareAnswer(part.expected, Told(AnswersTo(part))));
     }
     Judge(part, CompareAnswer(part.expected, Told(process_->ReadAnswer())));
+  }
+
+  /// The answers in a row, with only the last one's `ok`.
+  Lines AnswersTo(const Part& part) {
+    Lines all;
+    for (int i = 0; i < part.times; ++i) {
+      if (!all.empty()) all.pop_back();
+      process_->Send(Meant(part.text));
+      const Lines answer = process_->ReadAnswer();
+      all.insert(all.end(), answer.begin(), answer.end());
+      if (answer.empty() || answer.back() != "ok") break;
+    }
+    return all;
+  }
+
+  void PlayLines(const Part& part) {
+    for (const std::string& command : part.expected) {
+      process_->Send(Meant(command));
+      const Comparison comparison = CompareAnswer({}, Told(process_->ReadAnswer()));
+      if (!comparison.same) Complain(part, comparison.difference);
+    }
   }
 
   std::string PathOf(const Part& part) const { return home_.path + "/" + part.text; }

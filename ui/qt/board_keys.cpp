@@ -126,7 +126,8 @@ void Board::keyPressEvent(QKeyEvent* event) {
 void Board::focusInEvent(QFocusEvent* event) {
   const bool byTab =
       event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-  if (!byTab) return;
+  // A button that is switched off hands its focus on: nobody has asked to see that.
+  if (!byTab || host_.IsSyncing()) return;
   if (!Targets().empty()) {
     MoveFocus(0, 0);
   } else if (nextInFocusChain() != this) {

@@ -75,12 +75,12 @@ QString SuffixOf(const std::string& extension) {
 }  // namespace
 
 Answer AskBox(QWidget* above, Sign sign, Buttons buttons, const std::string& title,
-              const std::string& text) {
+              const std::string& text, const std::function<int(QMessageBox&)>& run) {
   QMessageBox box(IconOf(sign), ToQt(title), ToQt(text), ButtonsOf(buttons),
                   above && above->isVisible() ? above : nullptr);
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
-  return AnswerOf(box.exec());
+  return AnswerOf(run(box));
 }
 
 std::optional<std::string> AskForFile(QWidget* above, const FileDialog& asked) {

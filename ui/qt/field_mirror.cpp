@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "ui/qt/platform.h"
 #include "ui/qt/qt_window.h"
@@ -15,7 +16,7 @@ namespace {
 constexpr int FewLines = 5;  // of a field that can grow
 
 /// What both kinds of field have in common: positions count characters in the widget, bytes in the
-/// control.
+/// control. A line ends with LF in the widget, with CR LF in the control.
 class FieldMirror : public Mirror {
  protected:
   FieldMirror(QtWindow& host, Field& field) : Mirror(host, field), field_(field) {}
@@ -35,7 +36,7 @@ class FieldMirror : public Mirror {
   }
 
   void Typed() {
-    const std::string text = FromQt(ShownText());
+    const std::string text = FromQt(WithReturns(ShownText()));
     host_.Act(field_, [this, text] {
       const Selection selection = InBytes(ShownSelection());
       host_.Platform().UserType(field_, text);
@@ -44,6 +45,7 @@ class FieldMirror : public Mirror {
   }
 
   void Moved() {
+    if (!Widget()->hasFocus()) return;  // a widget that loses the focus shows no selection
     const Selection selection = InBytes(ShownSelection());
     if (ShownText() != WithoutReturns(field_.Text())) return;  // Typed tells both
     host_.Act(field_, [this, selection] { field_.Selected = selection; });
@@ -63,16 +65,26 @@ class FieldMirror : public Mirror {
   static QString WithoutReturns(const std::string& text) {
     return ToQt(text).remove(QLatin1Char('\r'));
   }
+  static QString WithReturns(QString text) {
+    return text.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+  }
 
   Selection InBytes(Selection s) const {
-    const QString text = ShownText();
-    const int start = BytesBefore(text, s.start);
-    return {start, BytesBefore(text, s.start + s.length) - start};
+    const int start = BytesUpTo(s.start);
+    return {start, BytesUpTo(s.start + s.length) - start};
+  }
+  int BytesUpTo(int characters) const {
+    return static_cast<int>(FromQt(WithReturns(ShownText().left(characters))).size());
   }
 
   Selection InCharacters(Selection s) const {
-    const int start = CharactersBefore(field_.Text(), s.start);
-    return {start, CharactersBefore(field_.Text(), s.start + s.length) - start};
+    const int start = CharactersUpTo(s.start);
+    return {start, CharactersUpTo(s.start + s.length) - start};
+  }
+  int CharactersUpTo(int bytes) const {
+    const std::string& text = field_.Text();
+    const auto size = std::min(text.size(), static_cast<std::size_t>(std::max(0, bytes)));
+    return static_cast<int>(WithoutReturns(text.substr(0, size)).size());
   }
 };
 

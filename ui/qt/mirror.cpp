@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -34,11 +35,20 @@ class FocusWatch : public QObject {
   FocusWatch(QtWindow& host, Control& control, QObject* parent)
       : QObject(parent), host_(host), control_(control) {}
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::FocusIn) host_.FocusMoved(control_);
+    if (event->type() == QEvent::FocusIn && ByPlayer(*static_cast<QFocusEvent*>(event))) {
+      host_.FocusMoved(control_);
+    }
     return false;
   }
 
  private:
+  /// A window that comes forward, or that has lost the control with the focus, chooses one itself.
+  static bool ByPlayer(const QFocusEvent& event) {
+    constexpr Qt::FocusReason ways[] = {Qt::MouseFocusReason, Qt::TabFocusReason,
+                                        Qt::BacktabFocusReason, Qt::ShortcutFocusReason};
+    return std::find(std::begin(ways), std::end(ways), event.reason()) != std::end(ways);
+  }
+
   QtWindow& host_;
   Control& control_;
 };

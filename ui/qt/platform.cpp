@@ -4,6 +4,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QEventLoop>
+#include <QMessageBox>
 #include <QProcess>
 #include <QScreen>
 #include <QTimer>
@@ -256,6 +257,7 @@ QtWindow* QtPlatform::ActiveView() const {
 void QtPlatform::Show(Window& window) {
   Mirror(window).Open(false, nullptr);
   Opened(window, false);
+  FocusFirst(window);
   SettleSoon();
 }
 
@@ -265,8 +267,13 @@ void QtPlatform::ShowModal(Window& window) {
   view.Open(true, above);
   const PumpScope free(*this, Pump::Free);
   Opened(window, true);
+  FocusFirst(window);
   SyncAll();
-  view.WaitUntilClosed();
+  HoldUp(view);
+}
+
+void QtPlatform::HoldUp(QtWindow& modal) {
+  modal.WaitUntilClosed();
 }
 
 void QtPlatform::Hide(Window& window) {
@@ -307,7 +314,12 @@ Answer QtPlatform::MessageBox(Sign sign, Buttons buttons, const std::string& tit
                               const std::string& text) {
   SyncAll();
   const PumpScope free(*this, Pump::Free);
-  return AskBox(ActiveView(), sign, buttons, title, text);
+  return AskBox(ActiveView(), sign, buttons, title, text,
+                [this](QMessageBox& box) { return HoldUp(box); });
+}
+
+int QtPlatform::HoldUp(QMessageBox& box) {
+  return box.exec();
 }
 
 std::optional<std::string> QtPlatform::AskFile(const FileDialog& dialog) {

@@ -12,6 +12,7 @@
 #include "ui/qt/clock.h"
 
 class QApplication;
+class QMessageBox;
 class QProcess;
 class QTimer;
 
@@ -88,6 +89,21 @@ class QtPlatform : public Desk {
   void SetScreenSize(Size size);
   Artwork& Pictures() { return *artwork_; }
 
+ protected:
+  /// The view of an open window; null for another one.
+  QtWindow* ViewOf(const Window& window) const;
+  /// The view of the active window; null if none is shown.
+  QtWindow* ActiveView() const;
+  /// Serves all pending input, and no timer.
+  void ServeInput();
+  /// Brings the widgets in step with the controls.
+  void SyncAll();
+
+  // How a player is waited for; a platform whose player is a script has its own ways.
+  virtual void ArmTimer();
+  virtual void HoldUp(QtWindow& modal);   ///< returns when it has been closed
+  virtual int HoldUp(QMessageBox& box);   ///< returns the standard button that closed it
+
  private:
   enum class Pump { Free, Serving, Waiting };
   class PumpScope;
@@ -96,19 +112,13 @@ class QtPlatform : public Desk {
     std::function<void()> act;
   };
 
-  QtWindow* ViewOf(const Window& window) const;
   QtWindow& Mirror(Window& window);
-  QtWindow* ActiveView() const;
-  void ServeInput();
   void ServeHeldActs();
   void TimersDue();
-  /// Brings the widgets in step with the controls.
-  void SyncAll();
   /// After a handler: widgets in step, the next timer armed, the program ended if it asked for it.
   void Settle();
   void SettleSoon();
   void BuryViews();
-  void ArmTimer();
   bool WaitFor(QProcess& process);
 
   std::unique_ptr<Clock> clock_;

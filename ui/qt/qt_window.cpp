@@ -37,6 +37,11 @@ QSize InnerOf(const Window& window) {
   return {window.InnerSize().w, window.InnerSize().h};
 }
 
+QSize NormalInnerOf(const Window& window) {
+  const Size inner = window.InnerFor(window.NormalSize());
+  return {inner.w, inner.h};
+}
+
 }  // namespace
 
 QtWindow::QtWindow(QtPlatform& platform, Window& model)
@@ -77,8 +82,9 @@ void QtWindow::PlaceParts() {
   board_->setGeometry(0, top, width(), std::max(0, height() - top - bottom));
 }
 
-QSize QtWindow::WholeSize() const {
-  QSize size = InnerOf(*model_);
+/// With what lies above and below the board.
+QSize QtWindow::WholeSize(QSize inner) const {
+  QSize size = inner;
   if (!model_->Layout().Empty()) {
     const QSize hint = board_->sizeHint();
     size.setWidth(std::max(size.width(), hint.width()));
@@ -209,8 +215,10 @@ void QtWindow::SyncWindow() {
 }
 
 void QtWindow::FollowSize() {
+  // A window that doesn't open in its normal state must know what to be restored to.
+  if (!placed_) resize(WholeSize(NormalInnerOf(*model_)));
   if (model_->State() != WindowState::Normal || windowState() & Qt::WindowMaximized) return;
-  const QSize wanted = WholeSize();
+  const QSize wanted = WholeSize(InnerOf(*model_));
   if (!model_->Layout().Empty() && isVisible()) return;  // the layout's size is its own affair
   if (!model_->Resizable) {
     setFixedSize(wanted);
@@ -269,7 +277,7 @@ void QtWindow::changeEvent(QEvent* event) {
 bool QtWindow::event(QEvent* event) {
   // A layout that wants another size takes it: its texts may have grown.
   if (event->type() == QEvent::LayoutRequest && model_ && !model_->Layout().Empty()) {
-    const QSize wanted = WholeSize();
+    const QSize wanted = WholeSize(InnerOf(*model_));
     if (!model_->Resizable) {
       setFixedSize(wanted);
     } else if (wanted.height() > height() || wanted.width() > width()) {

@@ -38,6 +38,7 @@ class QtWindow : public QWidget {
   void ControlChanged(Control& control);
   void WindowChanged();
   void Sync();
+  bool IsSyncing() const { return syncing_; }
   /// Paints at once what has changed.
   void PaintNow();
   void TakeFocus(Control& control);
@@ -49,7 +50,9 @@ class QtWindow : public QWidget {
   void Act(Control& control, std::function<void()> act);
   /// A real widget got the player's focus.
   void FocusMoved(Control& control);
+  /// The board for what is painted; null for a part of the menu or the status bar.
   QWidget* WidgetOf(const Control& control) const;
+  Board& TheBoard() const { return *board_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -70,7 +73,7 @@ class QtWindow : public QWidget {
   void CheckGeometry();
   void CheckSize();
   bool PressButton(Button::Role role);
-  QSize WholeSize() const;
+  QSize WholeSize(QSize inner) const;
 
   QtPlatform& platform_;
   Window* model_;

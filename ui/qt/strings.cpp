@@ -23,14 +23,4 @@ QString PlainTip(std::string_view bytes) {
   return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
-int BytesBefore(const QString& text, int characters) {
-  return static_cast<int>(text.left(characters).toUtf8().size());
-}
-
-int CharactersBefore(std::string_view bytes, int count) {
-  const auto size = static_cast<int>(bytes.size());
-  return static_cast<int>(
-      ToQt(bytes.substr(0, static_cast<std::size_t>(std::clamp(count, 0, size)))).size());
-}
-
 }  // namespace ui::qt

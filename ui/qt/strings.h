@@ -14,8 +14,4 @@ std::string FromQt(const QString& text);
 /// Tool tips and the like guess at markup; this keeps a plain text plain.
 QString PlainTip(std::string_view bytes);
 
-/// How many of the text's bytes its first `characters` take, and the other way round.
-int BytesBefore(const QString& text, int characters);
-int CharactersBefore(std::string_view bytes, int count);
-
 }  // namespace ui::qt

@@ -114,7 +114,8 @@ Interpreter::Outcome Interpreter::Dispatch(const Command& command) {
       {"draws", 1, any, &Interpreter::Draws},     {"deck", 1, any, &Interpreter::StageDeck},
       {"fault", 1, any, &Interpreter::Fault},     {"watch", 1, any, &Interpreter::SetWatch},
       {"get", 1, 2, &Interpreter::Get},           {"windows", 0, 0, &Interpreter::Windows},
-      {"controls", 0, 0, &Interpreter::Controls}, {"quit", 0, 0, &Interpreter::Quit},
+      {"controls", 0, 0, &Interpreter::Controls}, {"picture", 1, 1, &Interpreter::TakePicture},
+      {"quit", 0, 0, &Interpreter::Quit},
   };
   if (player_.Act(command)) return Outcome::Done;
   for (const Entry& entry : entries) {
@@ -234,7 +235,7 @@ void Interpreter::Get(const Command& command) {
   const bool whole = command.Arguments() == 1;
   if (whole && GetList(name)) return;
   if (const Control* control = FindControl(stage_.TheDesk(), name)) {
-    AddProperties(command, PropertiesOf(*control));
+    AddProperties(command, stage_.Look(*control));
   } else if (const Window* window = FindWindow(stage_.TheDesk(), name)) {
     AddProperties(command, PropertiesOf(*window));
   } else if (const auto value = whole ? subject_.Value(name) : std::nullopt) {
@@ -245,7 +246,7 @@ void Interpreter::Get(const Command& command) {
 }
 
 void Interpreter::AddProperties(const Command& command,
-                                const std::vector<PropertyText>& properties) {
+                                const Properties& properties) {
   const std::string& name = command.words[1].text;
   bool found = false;
   for (const PropertyText& property : properties) {
@@ -285,6 +286,10 @@ void Interpreter::Controls(const Command&) {
   for (const Control* control : window->Controls()) {
     Say("control " + control->FullName() + " " + std::string(KindName(control->GetKind())));
   }
+}
+
+void Interpreter::TakePicture(const Command& command) {
+  if (!stage_.TakePicture(TakeText(command.words[1]))) throw Refused{"no picture was written"};
 }
 
 void Interpreter::Quit(const Command&) {

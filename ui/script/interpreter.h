@@ -57,10 +57,11 @@ class Interpreter {
   void Get(const Command& command);
   void Windows(const Command& command);
   void Controls(const Command& command);
+  void TakePicture(const Command& command);
   void Quit(const Command& command);
 
   bool GetList(const std::string& name);
-  void AddProperties(const Command& command, const std::vector<PropertyText>& properties);
+  void AddProperties(const Command& command, const Properties& properties);
   void Say(std::string line) { values_.push_back(std::move(line)); }
 
   Stage& stage_;

@@ -7,8 +7,6 @@
 namespace ui::script {
 namespace {
 
-using Properties = std::vector<PropertyText>;
-
 template <class T>
 const T& As(const Control& control) {
   return static_cast<const T&>(control);
@@ -140,14 +138,14 @@ void AddOwn(Properties& to, const Control& c) {
 
 }  // namespace
 
-std::vector<PropertyText> PropertiesOf(const Control& control) {
+Properties PropertiesOf(const Control& control) {
   Properties properties;
   AddCommon(properties, control);
   AddOwn(properties, control);
   return properties;
 }
 
-std::vector<PropertyText> PropertiesOf(const Window& window) {
+Properties PropertiesOf(const Window& window) {
   Properties properties;
   const Size outer = window.OuterSize();
   const Size inner = window.InnerSize();

@@ -19,9 +19,11 @@ struct PropertyText {
   std::vector<std::string> lines;  ///< further lines that follow it: those of a drawing
 };
 
+using Properties = std::vector<PropertyText>;
+
 /// All properties, those that every control has first.
-std::vector<PropertyText> PropertiesOf(const Control& control);
-std::vector<PropertyText> PropertiesOf(const Window& window);
+Properties PropertiesOf(const Control& control);
+Properties PropertiesOf(const Window& window);
 
 /// What the player sees of a control: its text and its colour, as `"TEXT" COLOUR`.
 std::string SightOf(const Control& control);

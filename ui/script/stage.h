@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "ui/desk.h"
+#include "ui/script/properties.h"
 
 namespace ui::script {
 
@@ -53,6 +54,12 @@ class Stage {
   virtual void Queue(std::function<void()> act) = 0;
   /// Milliseconds since 1970-01-01 00:00; timers don't notice.
   virtual void SetNow(std::int64_t now) = 0;
+
+  /// What the player sees of a control.
+  virtual Properties Look(const Control& control) = 0;
+  /// Writes what the player sees of the topmost window to a PNG file; false if nothing is painted
+  /// here, or the file can't be written.
+  virtual bool TakePicture(const std::string& path) = 0;
 
   virtual void PlayerClicks(Control& control) = 0;
   virtual void PlayerPresses(Surface& surface, Point place) = 0;
