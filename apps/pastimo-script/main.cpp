@@ -1,6 +1,8 @@
 // The whole program on the headless platform, played by a script on standard input.
 #include <chrono>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "apps/pastimo-script/program_subject.h"
 #include "core/launcher/program.h"
@@ -9,8 +11,25 @@
 #include "ui/script/interpreter.h"
 #include "ui/script/options.h"
 
+namespace {
+
+constexpr const char* Usage =
+    "Usage: pastimo-script [--home DIR] [--fault WORDS]... [SAVED-GAME]\n"
+    "The games of pastimo, played by a script on standard input; see pastimo-script(6).\n\n"
+    "  --home DIR     the program's directory for this run\n"
+    "  --fault WORDS  a fault before the start-up\n"
+    "  --help         shows this text\n"
+    "  --version      shows the version\n";
+
+}  // namespace
+
 int main(int count, char** words) {
   using ui::script::ScriptOptions;
+  const std::string first = count > 1 ? words[1] : "";
+  if (first == "--help" || first == "--version") {
+    std::cout << (first == "--help" ? Usage : "pastimo-script " PASTIMO_VERSION "\n");
+    return 0;
+  }
   std::ios::sync_with_stdio(false);
   const auto options = ScriptOptions::Parse(std::vector<std::string>(words + 1, words + count));
   if (!options.error.empty()) {

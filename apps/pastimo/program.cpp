@@ -20,7 +20,8 @@ std::uint64_t Nanoseconds() {
 }  // namespace
 
 int RunPastimo(int argc, char** argv, const Started& started) {
-  ui::qt::QtPlatform platform(argc, argv, {core::DataDirectory() + "pictures"});
+  const std::string data = core::DataDirectory();
+  ui::qt::QtPlatform platform(argc, argv, {data + "pictures", data + "icons"});
   core::Chance chance(Nanoseconds);
   core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""),
                         argc > 1 ? argv[1] : "");

@@ -13,6 +13,7 @@
 #include "ui/qt/accessible.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/boxes.h"
+#include "ui/qt/icon.h"
 #include "ui/qt/mnemonics.h"
 #include "ui/qt/qt_window.h"
 #include "ui/qt/services.h"
@@ -70,6 +71,7 @@ QtPlatform::QtPlatform(int& argc, char** argv, Installation installation,
     : clock_(std::move(clock)), warmUp_(std::make_unique<WarmUp>()) {
   QApplication::setStyle(MakeStyle());
   application_ = std::make_unique<QApplication>(argc, argv);
+  IntroduceProgram(installation.icons);
   QApplication::setPalette(PaperPalette());
   QApplication::setQuitOnLastWindowClosed(false);
   mnemonics_ = std::make_unique<InstantMnemonics>();

@@ -27,6 +27,7 @@ class WarmUp;
 /// Where the desktop program finds its own files.
 struct Installation {
   std::string pictures;  ///< directory of the store's artwork, an SVG file each
+  std::string icons{};   ///< directory of the program's icon, a folder for each size
 };
 
 /// Whether there is a display to open windows on.
