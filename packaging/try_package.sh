@@ -22,14 +22,19 @@ leave() {
 }
 trap leave EXIT
 
+# What the triggers of other packages do where those are installed.
+tell_desktop() {
+  update-mime-database "$root/usr/share/mime" >/dev/null 2>&1 || true
+  update-desktop-database "$root/usr/share/applications" >/dev/null 2>&1 || true
+}
+
 install_package() {
   if [ -n "$root" ]; then
     mkdir -p "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/updates"
     touch "$root/var/lib/dpkg/status"
     $as_owner dpkg --root="$root" --log=/dev/null --force-depends --force-not-root -i "$package" \
       >"$work/log" 2>&1 || { cat "$work/log"; fail "the package can't be unpacked"; }
-    update-mime-database "$root/usr/share/mime" 2>/dev/null || true
-    update-desktop-database "$root/usr/share/applications" 2>/dev/null || true
+    tell_desktop
   else
     dpkg -i "$package" >"$work/log" 2>&1 || {
       cat "$work/log"
@@ -42,7 +47,8 @@ install_package() {
 
 remove() {
   if [ -n "$root" ]; then
-    $as_owner dpkg --root="$root" --log=/dev/null --force-not-root --purge pastimo
+    $as_owner dpkg --root="$root" --log=/dev/null --force-not-root --purge pastimo 2>&1
+    tell_desktop
   else
     dpkg --purge pastimo
   fi
@@ -75,6 +81,8 @@ if [ "$(id -u)" != 0 ] || dpkg-query -W pastimo >/dev/null 2>&1; then
 fi
 install_package
 usr=$root/usr
+# An entry whose program isn't in the path is none to the desktop.
+export PATH="$usr/bin:$PATH"
 export XDG_DATA_DIRS="$usr/share:/usr/share" XDG_DATA_HOME="$work/data" XDG_CONFIG_HOME="$work/config"
 
 say "== Both programs"
@@ -113,10 +121,10 @@ if has Xvfb && has xdotool && has gio; then
   Xvfb -displayfd 3 -screen 0 1024x768x24 3>"$work/display" 2>/dev/null &
   server=$!
   for _ in 1 2 3 4 5 6 7 8 9 10; do [ -s "$work/display" ] || sleep 0.3; done
-  export DISPLAY=":$(cat "$work/display")" QT_QPA_PLATFORM=xcb PASTIMO_HOME="$work/home"
-  # As a file manager starts it, with a file; the desktop entry's program is the one installed here.
-  PATH="$usr/bin:$PATH" gio launch "$usr/share/applications/pastimo.desktop" "$game" \
-    >/dev/null 2>&1 &
+  DISPLAY=:$(cat "$work/display")
+  export DISPLAY QT_QPA_PLATFORM=xcb PASTIMO_HOME="$work/home"
+  # As a file manager starts it, with a file.
+  gio launch "$usr/share/applications/pastimo.desktop" "$game" >/dev/null 2>&1 &
   window=$(timeout 20 xdotool search --sync --onlyvisible --class '^pastimo$') ||
     fail "no window is shown"
   program=$(xdotool getwindowpid "${window%%
