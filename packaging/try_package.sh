@@ -22,19 +22,15 @@ leave() {
 }
 trap leave EXIT
 
-# What the triggers of other packages do where those are installed.
-tell_desktop() {
-  update-mime-database "$root/usr/share/mime" >/dev/null 2>&1 || true
-  update-desktop-database "$root/usr/share/applications" >/dev/null 2>&1 || true
-}
-
 install_package() {
   if [ -n "$root" ]; then
     mkdir -p "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/updates"
     touch "$root/var/lib/dpkg/status"
     $as_owner dpkg --root="$root" --log=/dev/null --force-depends --force-not-root -i "$package" \
       >"$work/log" 2>&1 || { cat "$work/log"; fail "the package can't be unpacked"; }
-    tell_desktop
+    # What the triggers of other packages do where those are installed.
+    update-mime-database "$root/usr/share/mime" >/dev/null 2>&1 || true
+    update-desktop-database "$root/usr/share/applications" >/dev/null 2>&1 || true
   else
     dpkg -i "$package" >"$work/log" 2>&1 || {
       cat "$work/log"
@@ -48,7 +44,6 @@ install_package() {
 remove() {
   if [ -n "$root" ]; then
     $as_owner dpkg --root="$root" --log=/dev/null --force-not-root --purge pastimo 2>&1
-    tell_desktop
   else
     dpkg --purge pastimo
   fi
@@ -141,6 +136,6 @@ while read -r file; do
   [ ! -e "$root/$file" ] || fail "left behind: $root/$file"
 done <"$work/files"
 [ ! -e "$usr/share/pastimo" ] || fail "left behind: $usr/share/pastimo"
-[ ! -d "$usr/share/mime" ] || ! grep -qsr pastimo "$usr/share/mime/packages" "$usr/share/mime/globs" ||
+[ -n "$root" ] || ! grep -qs pastimo "$usr/share/mime/globs" ||
   fail "the type of saved games is still known"
 say "All is well: $(wc -l <"$work/files") files installed, tried and removed."
