@@ -26,7 +26,7 @@ namespace ui::qt {
 namespace {
 
 constexpr int MostRounds = 200;         // of serving input that goes on causing events
-constexpr int ComposerPatience = 3000;  // milliseconds; a mail composer may stay in foreground
+constexpr int HandOverPatience = 3000;  // milliseconds; what takes a page may stay in foreground
 constexpr std::int64_t LongestSleep = 60'000;
 
 /// Input that a wait has held back arrives only after the dispatcher has been woken.
@@ -121,7 +121,7 @@ bool QtPlatform::WaitFor(QProcess& process) {
   QObject::connect(&process, &QProcess::stateChanged, &loop, [&loop](QProcess::ProcessState state) {
     if (state == QProcess::NotRunning) loop.quit();
   });
-  QTimer::singleShot(ComposerPatience, &loop, [&loop] { loop.quit(); });
+  QTimer::singleShot(HandOverPatience, &loop, [&loop] { loop.quit(); });
   if (process.state() != QProcess::NotRunning) loop.exec(QEventLoop::ExcludeUserInputEvents);
   return process.state() == QProcess::NotRunning;
 }
@@ -335,7 +335,7 @@ void QtPlatform::CloseMusic() {
 }
 
 PageResult QtPlatform::OpenPage(const std::string& url) {
-  return OpenInBrowser(url);
+  return OpenInBrowser(url, [this](QProcess& process) { return WaitFor(process); });
 }
 void QtPlatform::ViewText(const std::string& path) {
   OpenInViewer(path);
