@@ -21,10 +21,11 @@ std::uint64_t Nanoseconds() {
 
 int RunPastimo(int argc, char** argv, const Started& started) {
   const std::string data = core::DataDirectory();
-  ui::qt::QtPlatform platform(argc, argv, {data + "pictures", data + "icons"});
+  const std::string home = core::HomeDirectory("");
+  ui::qt::QtPlatform platform(argc, argv,
+                              {data + "pictures", data + "icons", home + "Desktop.Ini"});
   core::Chance chance(Nanoseconds);
-  core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""),
-                        argc > 1 ? argv[1] : "");
+  core::Program program(platform, chance, games::AllGames(), home, argc > 1 ? argv[1] : "");
   program.Start();
   if (started) started(platform);
   return platform.Exec();

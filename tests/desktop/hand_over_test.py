@@ -32,8 +32,8 @@ def start(display):
     desktop, home = Desktop(), tempfile.mkdtemp()
     with open(home + "/Quindle Hi Score Table ES 11_90.Txt", "w") as file:
         file.write("Ann, 250000, Jan 01 2000 12:00 am\r\n" * 10 + "\r\n")
-    program = Program(display, [sys.argv[1]], PASTIMO_HOME=home, PATH=desktop.name, BROWSER="")
-    return desktop, home, program
+    return desktop, home, Program(display, [sys.argv[1]], PASTIMO_HOME=home, PATH=desktop.name,
+                                  BROWSER="")
 
 
 def open_quindle(program):
@@ -77,7 +77,7 @@ def a_mail(display):
     program.type("Dover")
     program.click("txtOther")
     program.type("It's \"50%\" luck & skill")
-    for composer in ("xdg-mail", "xdg-email"):  # the first is not what is looked for
+    for composer in ("xdg-mail", "xdg-email"):  # the first is not looked for
         desktop.has(composer, "exit 1")
         program.keys("alt+s")
         says(program, REGRET)

@@ -4,7 +4,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -28,14 +28,19 @@ bool EnabledThroughout(const Control& control) {
   return true;
 }
 
-/// Watches for the focus that the player moves.
+bool IsArrow(int key) {
+  return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+/// Watches for the focus that the player moves; arrow keys lead from a button to the cards.
 class FocusWatch : public QObject {
  public:
   FocusWatch(QtWindow& host, Control& control, QObject* parent)
       : QObject(parent), host_(host), control_(control) {}
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() == QEvent::FocusIn) host_.FocusMoved(control_);
-    return false;
+    if (event->type() != QEvent::KeyPress || control_.GetKind() != Kind::Button) return false;
+    return IsArrow(static_cast<QKeyEvent*>(event)->key()) && host_.FocusOnBoard();
   }
 
  private:

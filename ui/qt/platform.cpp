@@ -15,6 +15,7 @@
 #include "ui/qt/boxes.h"
 #include "ui/qt/icon.h"
 #include "ui/qt/mnemonics.h"
+#include "ui/qt/preferences.h"
 #include "ui/qt/qt_window.h"
 #include "ui/qt/services.h"
 #include "ui/qt/sound.h"
@@ -78,6 +79,7 @@ QtPlatform::QtPlatform(int& argc, char** argv, Installation installation,
   application_->installEventFilter(mnemonics_.get());
   MakeBoardsAccessible();
   artwork_ = std::make_unique<Artwork>(ToQt(installation.pictures));
+  preferences_ = std::make_unique<Preferences>(installation.preferences);
   timer_ = std::make_unique<QTimer>();
   timer_->setSingleShot(true);
   timer_->setTimerType(Qt::PreciseTimer);

@@ -50,6 +50,8 @@ class QtWindow : public QWidget {
   /// A real widget got the player's focus.
   void FocusMoved(Control& control);
   QWidget* WidgetOf(const Control& control) const;
+  /// The keyboard points at the board from now on; false if nothing there can be clicked.
+  bool FocusOnBoard();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
