@@ -28,6 +28,8 @@ bool EnabledThroughout(const Control& control) {
   return true;
 }
 
+constexpr int PictureInDialog = 32;  // pixels
+
 bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
@@ -67,7 +69,8 @@ class ButtonMirror : public Mirror {
       widget_->setAccessibleName(QString());
       return;
     }
-    const QSize size(button_.Place().w - 8, button_.Place().h - 8);
+    const QSize size = IsPlaced() ? QSize(button_.Place().w - 8, button_.Place().h - 8)
+                                  : QSize(PictureInDialog, PictureInDialog);
     const std::string artwork = host_.Platform().ArtworkOf(button_.Image());
     widget_->setText(QString());
     widget_->setIconSize(size);
