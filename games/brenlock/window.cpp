@@ -90,7 +90,7 @@ void frmBrenlock::PlaceBoard(ui::Size inner) {
   core::CenterIn(lblRound, {middle - 76, lower + 97, 102, 22});
   Score.SetPlace({middle + 38, lower + 84, 126, 44});
   core::CenterIn(lblHighScore, {middle - 80, lower + 130, 244, 20});
-  frmScore.Place = {middle + 168, lower, 106, 166};
+  frmScore.Place = {middle + 168, lower, 130, 166};
   const int right = inner.w - core::RoundClock::Extent.w - 4;
   Clock.SetPlace({right, 120});
   TimeBonusFrame.SetPlace({right, 228, core::RoundClock::Extent.w, 28});
@@ -115,8 +115,8 @@ void frmBrenlock::MakeTable() {
     const int y = FirstTableRow + static_cast<int>(table_.size()) * TableRowHeight;
     TableRow row{std::make_unique<ui::Label>(this, totalName, total),
                  std::make_unique<ui::Label>(this, valueName, std::to_string(value))};
-    core::CenterIn(*row.total, {4, y, 48, TableRowHeight});
-    core::CenterIn(*row.value, {54, y, 48, TableRowHeight});
+    core::CenterIn(*row.total, {14, y, 50, TableRowHeight});
+    core::CenterIn(*row.value, {66, y, 50, TableRowHeight});
     row.total->SetContainer(&frmScore);
     row.value->SetContainer(&frmScore);
     table_.push_back(std::move(row));

@@ -84,7 +84,7 @@ void frmHarvel::PlaceBoard(ui::Size inner) {
   lblTwentyoneTime.Place = {10, 18, 80, 16};
   ProgressBar1.Place = {96, 19, 220, 14};
   lblTwentyOnes.Place = {10, 38, 84, 16};
-  lbl21s.Place = {96, 38, 40, 16};
+  lbl21s.Place = {102, 38, 40, 16};
   lbl21Bonus.Place = {146, 38, 50, 16};
   lblBonus.Place = {200, 38, 116, 16};
   core::CenterIn(lblRoundScore, {4, 54, 318, 15});

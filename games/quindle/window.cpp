@@ -157,13 +157,13 @@ void frmQuindle::PlaceBoard(ui::Size inner) {
   UpCardPicture.Place = {middle + 14, lower, Card.w, Card.h};
   UpCardSelectionRectangle.Place = {middle + 13, lower - 1, SelectionFrame.w, SelectionFrame.h};
   core::CenterIn(lblCardCount, {middle - 110, lower + 102, 116, 20});
-  Clock.SetPlace({inner.w - 92, inner.h - 208});
-  Round.SetPlace({inner.w - 92, inner.h - 96, 84, 44});
-  Score.SetPlace({12, inner.h - 96, 116, 44});
-  Elevens.SetPlace({12, inner.h - 146, 116, 44});
-  core::CenterIn(lblHighScore, {4, inner.h - 44, 240, 20});
+  Clock.SetPlace({inner.w - 92, inner.h - 196});
+  Round.SetPlace({inner.w - 92, inner.h - 84, 84, 44});
+  Score.SetPlace({12, inner.h - 84, 116, 44});
+  Elevens.SetPlace({12, inner.h - 134, 116, 44});
+  core::CenterIn(lblHighScore, {4, inner.h - 36, 240, 20});
   lblHighScore.Alignment = ui::Align::Left;
-  lblHighScore.MoveTo(12, inner.h - 44);
+  lblHighScore.MoveTo(12, inner.h - 36);
   Total.SetPlace({middle + 110, lower + 24, 84, 44});
   lblMessage_Change();
 }
