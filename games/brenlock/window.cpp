@@ -12,7 +12,8 @@ using core::Design;
 
 constexpr int ButtonColumn = 92;  // kept free at the right edge
 constexpr int ColumnWidth = 104;
-constexpr int LowerHeight = 169;  // of all that stands below the columns
+constexpr int LowerHeight = 169;     // of all that stands below the columns
+constexpr int SmallestHeight = 427;  // of the window's inside
 constexpr int FirstTableRow = 20;
 constexpr int TableRowHeight = 14;
 
@@ -79,7 +80,8 @@ frmBrenlock::frmBrenlock(core::Suite& suite, const core::GameEntry& entry)
 
 void frmBrenlock::PlaceBoard(ui::Size inner) {
   const int middle = (inner.w - ButtonColumn) / 2;
-  const int lower = inner.h - LowerHeight;
+  const int spare = std::max(0, inner.h - SmallestHeight);
+  const int lower = inner.h - LowerHeight - spare / 3;
   const int top = std::max(4, (lower - columns::ColumnBoard::Height) / 2);
   Board.PlaceColumns(middle - ColumnCount * ColumnWidth / 2, top);
   ScoringLabelOutline.Place = {middle - 262, top + 56, 524, 92};

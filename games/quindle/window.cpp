@@ -144,7 +144,8 @@ void frmQuindle::ShowModeInCaption() {
 
 void frmQuindle::PlaceBoard(ui::Size inner) {
   const int middle = (inner.w - 84) / 2;
-  const int top = std::max(6, (inner.h - 433) / 4);
+  const int spare = std::max(0, inner.h - 433);
+  const int top = std::max(6, spare / 4);
   FieldCardPicture.ForEach([&](int i, ui::Picture& picture) {
     const Spot spot = Spots[i];
     picture.Place = {middle + static_cast<int>(spot.column * ColumnStep) - Card.w / 2,
@@ -152,7 +153,7 @@ void frmQuindle::PlaceBoard(ui::Size inner) {
     FieldSelectionRectangle(i).Place = {picture.Place().x - 1, picture.Place().y - 1,
                                         SelectionFrame.w, SelectionFrame.h};
   });
-  const int lower = inner.h - 138;
+  const int lower = inner.h - 138 - spare / 3;
   PlayCardPicture.Place = {middle - 90, lower, 76, 98};
   UpCardPicture.Place = {middle + 14, lower, Card.w, Card.h};
   UpCardSelectionRectangle.Place = {middle + 13, lower - 1, SelectionFrame.w, SelectionFrame.h};
