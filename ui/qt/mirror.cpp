@@ -21,14 +21,30 @@
 namespace ui::qt {
 namespace {
 
+constexpr int PictureInDialog = 32;  // pixels
+constexpr int CaptionGap = 12;       // pixels, at most, between a caption and what it names
+
+/// The text of the label that stands right above a control or to its left; empty for none.
+std::string CaptionBy(const Control& control) {
+  const Rect place = control.PlaceInWindow();
+  for (const Control* other : control.Owner().Controls()) {
+    if (other->GetKind() != Kind::Label || !other->Shown()) continue;
+    const Rect label = other->PlaceInWindow();
+    const bool above = label.x < place.Right() && place.x < label.Right() &&
+                       label.Bottom() <= place.y && place.y - label.Bottom() < CaptionGap;
+    const bool before = label.y < place.Bottom() && place.y < label.Bottom() &&
+                        label.Right() <= place.x && place.x - label.Right() < CaptionGap;
+    if (above || before) return static_cast<const Label&>(*other).Text();
+  }
+  return "";
+}
+
 bool EnabledThroughout(const Control& control) {
   for (const Control* c = &control; c; c = c->Container()) {
     if (!c->Enabled()) return false;
   }
   return true;
 }
-
-constexpr int PictureInDialog = 32;  // pixels
 
 bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
@@ -73,6 +89,7 @@ class ButtonMirror : public Mirror {
                                   : QSize(PictureInDialog, PictureInDialog);
     const std::string artwork = host_.Platform().ArtworkOf(button_.Image());
     widget_->setText(QString());
+    if (!IsPlaced()) widget_->setFixedWidth(2 * PictureInDialog);
     widget_->setIconSize(size);
     widget_->setIcon(
         host_.Platform().Pictures().Fitted(artwork, size, widget_->devicePixelRatioF()));
@@ -189,7 +206,8 @@ void Mirror::Sync() {
   widget_->setToolTip(PlainTip(control_.Tip()));
   // A field on a board has no caption of its own that a screen reader could find.
   if (placed_ && !qobject_cast<QAbstractButton*>(widget_)) {
-    widget_->setAccessibleName(ToQt(control_.Tip()));
+    const std::string tip = control_.Tip();
+    widget_->setAccessibleName(ToQt(tip.empty() ? CaptionBy(control_) : tip));
   }
   widget_->setEnabled(EnabledThroughout(control_));
   if (placed_) widget_->setGeometry(ToQt(control_.PlaceInWindow()));
