@@ -17,7 +17,6 @@ MAIL = ["--utf8", "--subject", "Pastimo High Score Listing for Quindle!", "--bod
 
 class Desktop(tempfile.TemporaryDirectory):
     """The only programs that can be found: each notes what it was given."""
-
     def has(self, name, ending="exit 0"):
         path = self.name + "/" + name
         with open(path, "w") as file:
@@ -33,8 +32,7 @@ def start(display):
     desktop, home = Desktop(), tempfile.mkdtemp()
     with open(home + "/Quindle Hi Score Table ES 11_90.Txt", "w") as file:
         file.write("Ann, 250000, Jan 01 2000 12:00 am\r\n" * 10 + "\r\n")
-    environment = {"PASTIMO_HOME": home, "PATH": desktop.name, "BROWSER": ""}
-    return desktop, home, Program(display, [sys.argv[1]], **environment)
+    return desktop, home, Program(display, sys.argv[1:], PASTIMO_HOME=home, PATH=desktop.name)
 
 
 def open_quindle(program):
