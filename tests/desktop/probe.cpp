@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QMessageBox>
 #include <QSocketNotifier>
 #include <QWidget>
 #include <QWindow>
@@ -41,6 +42,7 @@ class Probe::Reader {
     std::string verb, name;
     words >> verb >> name;
     if (verb == "windows") return Windows();
+    if (verb == "box") return BoxText();
     const ui::Control* control = FindControl(name);
     if (!control) return "none";
     if (verb == "text") return TextOf(*control);
@@ -54,7 +56,8 @@ class Probe::Reader {
     int x = 0, y = 0, w = 0, h = 0;
     if (!(place >> x >> y >> w >> h)) return "none";
     const QPoint middle(x + w / 2, y + h / 2);
-    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(QApplication::activeWindow());
+    QAccessibleInterface* found =
+        QAccessible::queryAccessibleInterface(QApplication::activeWindow());
     while (QAccessibleInterface* inner = found ? found->childAt(middle.x(), middle.y()) : nullptr) {
       found = inner;
     }
@@ -69,6 +72,11 @@ class Probe::Reader {
       names += (names.empty() ? "" : " ") + window->Name() + (window->IsHidden() ? ":hidden" : "");
     }
     return names;
+  }
+
+  static std::string BoxText() {
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    return box ? ui::qt::FromQt(box->text().replace('\n', ' ')) : "none";
   }
 
   const ui::Control* FindControl(const std::string& name) const {
