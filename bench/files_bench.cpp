@@ -39,7 +39,7 @@ int main() {
   ui::HeadlessPlatform platform;
   core::Chance chance;
   core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""), "");
-  platform.Start([&program] { program.Start(); });
+  platform.Stage().Start([&program] { program.Start(); });
   platform.UserClick(*platform.ActiveWindow()->Find("cmdQuindle"));
   auto& game = dynamic_cast<core::GameWindow&>(*platform.ActiveWindow());
   Measure("writing a settings file", [&] { game.WriteSettings(); });
