@@ -22,8 +22,7 @@ std::uint64_t Nanoseconds() {
 int RunPastimo(int argc, char** argv, const Started& started, Instead instead) {
   const std::string data = core::DataDirectory();
   const std::string home = core::HomeDirectory("");
-  ui::qt::QtPlatform platform(argc, argv,
-                              {data + "pictures", data + "icons", home + "Desktop.Ini"},
+  ui::qt::QtPlatform platform(argc, argv, {data + "pictures", data + "icons", home + "Desktop.Ini"},
                               std::move(instead.clock));
   core::Chance chance(Nanoseconds);
   core::Program program(platform, instead.chance ? *instead.chance : chance, games::AllGames(),
