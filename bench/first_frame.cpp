@@ -4,13 +4,11 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include <QApplication>
-#include <QEvent>
-#include <QTimer>
-#include <QWidget>
 #include <cstdio>
 #include <fstream>
 #include <string>
+
+#include "ui/qt/stopwatch.h"
 
 namespace {
 
@@ -34,7 +32,7 @@ long ProportionalKilobytes() {
 
 void TellIdleFigures() {
   const double before = ProcessorSeconds();
-  QTimer::singleShot(IdleTime, [before] {
+  ui::qt::After(IdleTime, [before] {
     const double share = (ProcessorSeconds() - before) / (IdleTime / 1000.0);
     std::printf("memory %.1f MiB, idle %.2f %% of a core\n", double(ProportionalKilobytes()) / 1024,
                 share * 100);
@@ -43,26 +41,11 @@ void TellIdleFigures() {
   });
 }
 
-class Watch : public QObject {
- public:
-  explicit Watch(bool stay) : stay_(stay) {}
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() != QEvent::Paint || !object->isWidgetType()) return false;
-    qApp->removeEventFilter(this);
-    // All widgets are painted in one go: what follows in the loop comes after the frame.
-    QTimer::singleShot(0, [stay = stay_] {
-      if (!stay) _exit(0);
-      QTimer::singleShot(SettlingTime, TellIdleFigures);
-    });
-    return false;
-  }
-
- private:
-  const bool stay_;
-};
-
 }  // namespace
 
 void EndWithFirstFrame(bool stay) {
-  qApp->installEventFilter(new Watch(stay));
+  ui::qt::AfterFirstFrame([stay] {
+    if (!stay) _exit(0);
+    ui::qt::After(SettlingTime, TellIdleFigures);
+  });
 }

@@ -4,6 +4,5 @@
 
 int main(int argc, char** argv) {
   int one = 1;
-  return apps::RunPastimo(one, argv,
-                          [argc](ui::qt::QtPlatform&) { EndWithFirstFrame(argc > 1); });
+  return apps::RunPastimo(one, argv, [argc](ui::qt::QtPlatform&) { EndWithFirstFrame(argc > 1); });
 }

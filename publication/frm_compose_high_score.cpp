@@ -50,6 +50,7 @@ void frmComposeHighScore::LayOut() {
   lblInfo.Wrap = true;
   txtSample.ReadOnly = true;
   txtOther.Multiline = true;
+  cmdSubmit.DialogRole = ui::Button::Role::Default;
   cmdCancel.DialogRole = ui::Button::Role::Cancel;
   layout_.Row({&lblInfo});
   layout_.Row({&lblName, &txtName});

@@ -181,7 +181,12 @@ void Desk::Opened(Window& window, bool modal) {
 
 void Desk::FocusFirst(Window& window) {
   if (!window.IsOpen() || window.IsHidden() || FocusOf(window)) return;
-  const auto& controls = window.Controls();
+  // In a form the player starts at the top, wherever the buttons were declared.
+  std::vector<Control*> controls;
+  for (const FormRow& row : window.Layout().Rows()) {
+    controls.insert(controls.end(), row.cells.begin(), row.cells.end());
+  }
+  if (controls.empty()) controls = window.Controls();
   const auto first = std::find_if(controls.begin(), controls.end(), [](const Control* c) {
     return TakesFocus(c->GetKind()) && c->Usable();
   });

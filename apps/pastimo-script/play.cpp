@@ -11,8 +11,24 @@
 #include "ui/script/interpreter.h"
 
 namespace app {
+namespace {
+
+constexpr const char* Usage =
+    "Usage: pastimo-script [--home DIR] [--fault WORDS]... [SAVED-GAME]\n"
+    "The games of pastimo, played by a script on standard input; see pastimo-script(6).\n\n"
+    "  --home DIR     the program's directory for this run\n"
+    "  --fault WORDS  a fault before the start-up\n"
+    "  --help         shows this text\n"
+    "  --version      shows the version\n";
+
+}  // namespace
 
 ui::script::ScriptOptions OptionsOf(int count, char** words) {
+  const std::string first = count > 1 ? words[1] : "";
+  if (first == "--help" || first == "--version") {
+    std::cout << (first == "--help" ? Usage : "pastimo-script " PASTIMO_VERSION "\n");
+    std::exit(0);
+  }
   auto options =
       ui::script::ScriptOptions::Parse(std::vector<std::string>(words + 1, words + count));
   if (options.error.empty()) return options;

@@ -6,7 +6,8 @@
 
 namespace app {
 
-/// Reads the command line; prints what is wrong with it, and leaves the program with 2.
+/// Reads the command line. Leaves the program with 0 where that asks for help or the version alone,
+/// and with 2, saying why, where it is wrong.
 ui::script::ScriptOptions OptionsOf(int count, char** words);
 
 /// Plays what stands on standard input, on the desk and stage of one platform; returns the exit

@@ -19,11 +19,14 @@ std::uint64_t Nanoseconds() {
 
 }  // namespace
 
-int RunPastimo(int argc, char** argv, const Started& started) {
-  ui::qt::QtPlatform platform(argc, argv, {core::DataDirectory() + "pictures"});
+int RunPastimo(int argc, char** argv, const Started& started, Instead instead) {
+  const std::string data = core::DataDirectory();
+  const std::string home = core::HomeDirectory("");
+  ui::qt::QtPlatform platform(argc, argv, {data + "pictures", data + "icons", home + "Desktop.Ini"},
+                              std::move(instead.clock));
   core::Chance chance(Nanoseconds);
-  core::Program program(platform, chance, games::AllGames(), core::HomeDirectory(""),
-                        argc > 1 ? argv[1] : "");
+  core::Program program(platform, instead.chance ? *instead.chance : chance, games::AllGames(),
+                        home, argc > 1 ? argv[1] : "");
   program.Start();
   if (started) started(platform);
   return platform.Exec();

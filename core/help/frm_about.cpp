@@ -13,8 +13,8 @@ constexpr int InnerWidth = 360;
 constexpr std::int64_t MillisecondsPerMinute = 60'000;
 
 std::string Credit(const std::string& gameTitle) {
-  return gameTitle + " is a game of the Pastimo, written by Corvane. Write to " +
-         deployment::SupportAddress + " or visit " + deployment::SuitePage + ".";
+  return gameTitle + " is a game of the Pastimo, written by Corvane.\r\nWrite to " +
+         deployment::SupportAddress + "\r\nor visit " + deployment::SuitePage + ".";
 }
 
 /// A clock that was set back since the session began gives none.

@@ -32,13 +32,30 @@ std::string InstalledData() {
   return (program.parent_path().parent_path() / "share" / "pastimo").string();
 }
 
+struct Described {
+  const char* key;
+  const char* words;
+};
+
+constexpr Described Pictures[] = {
+    {"BACK", "Card face down"},
+    {"FULL", "Pile of cards face down"},
+    {"HALF", "Pile of cards face down"},
+    {"EMPTY", "Empty place"},
+    {"Empty", "Empty place"},
+    {"QDLE", "Emblem"},
+    {"HAPPY", "Guess left, a sun"},
+    {"UNHAPPY", "Guess lost, a cloud"},
+    {"UNHAPPY2", "Guess lost, a red sign"},
+    {"BLANK", "Guess paid"},
+};
+
 /// Pictures in words, for those who can't see them.
 std::string DescriptionOf(const std::string& key) {
   if (const std::string card = CardName(key); !card.empty()) return card;
-  if (key == "BACK") return "Card face down";
-  if (key == "FULL" || key == "HALF") return "Pile of cards face down";
-  if (key == "EMPTY" || key == "Empty") return "Empty place";
-  if (key == "QDLE") return "Emblem";
+  for (const Described& picture : Pictures) {
+    if (key == picture.key) return picture.words;
+  }
   return key;
 }
 

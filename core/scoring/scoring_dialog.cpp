@@ -197,13 +197,18 @@ bool ScoringDialog::Passes(NumberField& field) {
 
 void ScoringDialog::Refuse(NumberField& field, const FieldTest& test) {
   const bool clamping = table_.refusal == Refusal::Clamping;
-  const auto replace = [&] {
+  const auto store = [&] {
     if (test.stores) field.store(static_cast<double>(*test.stores));
+  };
+  const auto show = [&] {
     if (test.shows) SetText(field.name, test.shows(*this));
   };
-  if (table_.replacesBeforeMessage) replace();
+  const bool storesBefore = table_.storesBeforeMessage || table_.replacesBeforeMessage;
+  if (storesBefore) store();
+  if (table_.replacesBeforeMessage) show();
   suite_.Tell(clamping ? ui::Sign::Information : ui::Sign::Exclamation, test.message);
-  if (!table_.replacesBeforeMessage) replace();
+  if (!storesBefore) store();
+  if (!table_.replacesBeforeMessage) show();
   suite_.platform.SetFocus(Named(field.name));
 }
 

@@ -125,6 +125,7 @@ struct ScoringTable {
   std::vector<DialogItem> items;  ///< in the order of the layout
   Refusal refusal = Refusal::Clamping;
   bool replacesBeforeMessage = false;  ///< a refused value is replaced before the message stands
+  bool storesBeforeMessage = false;    ///< the same in memory, but the field is replaced after it
   /// The fields in the order of their tests; empty: the order of the layout.
   std::vector<std::string> testOrder = {};
 

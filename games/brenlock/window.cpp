@@ -12,7 +12,8 @@ using core::Design;
 
 constexpr int ButtonColumn = 92;  // kept free at the right edge
 constexpr int ColumnWidth = 104;
-constexpr int LowerHeight = 169;  // of all that stands below the columns
+constexpr int LowerHeight = 169;     // of all that stands below the columns
+constexpr int SmallestHeight = 427;  // of the window's inside
 constexpr int FirstTableRow = 20;
 constexpr int TableRowHeight = 14;
 
@@ -79,7 +80,8 @@ frmBrenlock::frmBrenlock(core::Suite& suite, const core::GameEntry& entry)
 
 void frmBrenlock::PlaceBoard(ui::Size inner) {
   const int middle = (inner.w - ButtonColumn) / 2;
-  const int lower = inner.h - LowerHeight;
+  const int spare = std::max(0, inner.h - SmallestHeight);
+  const int lower = inner.h - LowerHeight - spare / 3;
   const int top = std::max(4, (lower - columns::ColumnBoard::Height) / 2);
   Board.PlaceColumns(middle - ColumnCount * ColumnWidth / 2, top);
   ScoringLabelOutline.Place = {middle - 262, top + 56, 524, 92};
@@ -90,7 +92,7 @@ void frmBrenlock::PlaceBoard(ui::Size inner) {
   core::CenterIn(lblRound, {middle - 76, lower + 97, 102, 22});
   Score.SetPlace({middle + 38, lower + 84, 126, 44});
   core::CenterIn(lblHighScore, {middle - 80, lower + 130, 244, 20});
-  frmScore.Place = {middle + 168, lower, 106, 166};
+  frmScore.Place = {middle + 168, lower, 130, 166};
   const int right = inner.w - core::RoundClock::Extent.w - 4;
   Clock.SetPlace({right, 120});
   TimeBonusFrame.SetPlace({right, 228, core::RoundClock::Extent.w, 28});
@@ -115,8 +117,8 @@ void frmBrenlock::MakeTable() {
     const int y = FirstTableRow + static_cast<int>(table_.size()) * TableRowHeight;
     TableRow row{std::make_unique<ui::Label>(this, totalName, total),
                  std::make_unique<ui::Label>(this, valueName, std::to_string(value))};
-    core::CenterIn(*row.total, {4, y, 48, TableRowHeight});
-    core::CenterIn(*row.value, {54, y, 48, TableRowHeight});
+    core::CenterIn(*row.total, {14, y, 50, TableRowHeight});
+    core::CenterIn(*row.value, {66, y, 50, TableRowHeight});
     row.total->SetContainer(&frmScore);
     row.value->SetContainer(&frmScore);
     table_.push_back(std::move(row));

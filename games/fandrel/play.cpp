@@ -217,7 +217,7 @@ void frmFandrel::PayBonuses(Board board) {
 
 void frmFandrel::Announce(const std::string& title, const std::string& wave) {
   Wave(wave);
-  ShowMessage(title, ui::Red);
+  ShowMessage(title, Message.TextColor());
   Flash(Message, Flashes);
   HideMessage();
   ServeAndDrop();

@@ -144,15 +144,15 @@ void frmPhrase::PlaceBoard(ui::Size inner) {
   const int right = left + GuessWidth + 6;
   core::CenterIn(lblLetterValue, {right, guesses + 8, left + PhraseWidth - right, 20});
   txtLetterValue.Place = {right + 14, guesses + 32, left + PhraseWidth - right - 28, 24};
-  const int keys = inner.h - 124;
+  const int keys = inner.h - 124 - spare / 4;
   ProgressBar1.Place = {left, keys - 20, PhraseWidth, 14};
   cmdLetter.ForEach([&](int i, ui::Button& button) {
     button.Place = {middle - KeysInARow * KeyStep / 2 + i % KeysInARow * KeyStep,
                     keys + i / KeysInARow * RowStep, KeyStep - 2, RowStep - 1};
   });
   DummyCommand.Place = {-20, -20, 10, 10};
-  Score.SetPlace({left, inner.h - 54, 116, 44});
-  lblHighScore.Place = {left + 132, inner.h - 42, 260, 20};
+  Score.SetPlace({left, keys + 70, 116, 44});
+  lblHighScore.Place = {left + 132, keys + 82, 260, 20};
   lblHighScore.Alignment = ui::Align::Left;
   Clock.SetPlace({inner.w - 92, inner.h - 240});
   Round.SetPlace({inner.w - 92, inner.h - 124, 84, 44});

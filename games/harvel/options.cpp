@@ -137,6 +137,7 @@ core::ScoringTable frmHarvel::ScoringTableOfDialog() {
       core::NoteField{"lblInfo",
                       "Note: Changing any of the Scoring Options will cause your high scores to be "
                       "marked with an * indicating custom scoring was in use."}};
+  table.storesBeforeMessage = true;
   table.testOrder = {
       "txtNumberOfCardsToPass", "txtWaitPeriod",         "txtCardsUsedBonus", "txt21BonusValue",
       "txtDeckCompletionBonus", "txtFiveCardGimmeBonus", "txtBonus"};

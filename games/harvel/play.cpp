@@ -46,9 +46,7 @@ void frmHarvel::AskToEndGame() {
   if (!shared.GameActive) return;
   if (!yes) return StartMusic();
   StopTimers();
-  ShowCaptionOfPlay(false);
   EnablePause(false);
-  ShowTimerGroup(false);
   shared.RoundNumber = AfterLastRound;
   GameAbandoned = true;
   NextRound();
@@ -68,10 +66,7 @@ void frmHarvel::NextRound() {
   ResetCounter();
   StatusBar1(2).Text = "Create columns of 21 to increase bonus score!   ";
   if (rules_.IsPlayed(shared.RoundNumber, shared.CurrentScore)) return StartRound();
-  if (!GameAbandoned) {
-    EnterScore();
-    ShowTimerGroup(false);
-  }
+  if (!GameAbandoned) EnterScore();
   ReturnToTitle();
 }
 
@@ -85,10 +80,11 @@ void frmHarvel::StartRound() {
       "Prepare for " + (bonusRound ? "Bonus Round" : "Round " + Digits(shared.RoundNumber)),
       ui::Red);
   Board.ShowEmptyPlaces();
-  Timer1.Enabled = !StandsStill();
   rules_.StartRound();
   ShowCurrentCard(rules_.CurrentCard());
   ServeAndDrop();
+  // Only now: the window may have been minimized or restored meanwhile.
+  Timer1.Enabled = !StandsStill();
   shared.ScoringBusy = false;
   EnableControls(true);
   EnablePause(true);
@@ -96,6 +92,7 @@ void frmHarvel::StartRound() {
 }
 
 void frmHarvel::ReturnToTitle() {
+  ShowTimerGroup(false);
   shared.DeckIndex = 0;
   lblRound.Text = "Game Over";
   ShowCaptionOfPlay(false);

@@ -10,7 +10,8 @@ using core::Design;
 
 constexpr int ButtonColumn = 92;  // kept free at the right edge
 constexpr int ColumnWidth = 84;
-constexpr int LowerHeight = 159;  // of all that stands below the columns
+constexpr int LowerHeight = 159;     // of all that stands below the columns
+constexpr int SmallestHeight = 409;  // of the window's inside
 
 core::Vocabulary Words(std::vector<core::DeckEntry> decks) {
   core::Vocabulary words;
@@ -74,7 +75,8 @@ frmHarvel::frmHarvel(core::Suite& suite, const core::GameEntry& entry)
 
 void frmHarvel::PlaceBoard(ui::Size inner) {
   const int middle = (inner.w - ButtonColumn) / 2;
-  const int lower = inner.h - LowerHeight;
+  const int spare = std::max(0, inner.h - SmallestHeight);
+  const int lower = inner.h - LowerHeight - spare / 3;
   const int top = std::max(4, (lower - columns::ColumnBoard::Height) / 2);
   Board.PlaceColumns(middle - ColumnCount * ColumnWidth / 2, top);
   ScoringLabelOutline.Place = {middle - 184, top + 60, 368, 64};
@@ -84,7 +86,7 @@ void frmHarvel::PlaceBoard(ui::Size inner) {
   lblTwentyoneTime.Place = {10, 18, 80, 16};
   ProgressBar1.Place = {96, 19, 220, 14};
   lblTwentyOnes.Place = {10, 38, 84, 16};
-  lbl21s.Place = {96, 38, 40, 16};
+  lbl21s.Place = {102, 38, 40, 16};
   lbl21Bonus.Place = {146, 38, 50, 16};
   lblBonus.Place = {200, 38, 116, 16};
   core::CenterIn(lblRoundScore, {4, 54, 318, 15});
@@ -93,7 +95,7 @@ void frmHarvel::PlaceBoard(ui::Size inner) {
   CardsUsed.SetPlace({middle + 55, lower + 90, 88, 44});
   RoundFrame.SetPlace({middle + 149, lower + 90, 100, 44});
   core::CenterIn(lblRound, {middle + 151, lower + 102, 96, 20});
-  core::CenterIn(lblHighScore, {middle - 77, inner.h - 22, 326, 20});
+  core::CenterIn(lblHighScore, {middle - 77, lower + LowerHeight - 22, 326, 20});
   Clock.SetPlace({inner.w - core::RoundClock::Extent.w - 4, 160});
 }
 

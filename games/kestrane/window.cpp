@@ -91,8 +91,9 @@ void frmKestrane::PlaceBoard(ui::Size inner) {
   core::CenterIn(lblRound, {middle - 268, top + 116, 96, 20});
   Trips.SetPlace({middle - 268, top + 140, 96, 44});
   Runs.SetPlace({middle - 268, top + 190, 96, 44});
-  Score.SetPlace({middle + 234, top + 190, 116, 44});
-  core::CenterIn(lblHighScore, {middle + 174, top + 240, 178, 36});
+  // Beside the deck, where the title panel leaves them free.
+  Score.SetPlace({middle + 234, deckTop + 34, 116, 44});
+  core::CenterIn(lblHighScore, {middle + 174, deckTop + 82, 178, 20});
   core::CenterIn(lblCardCount, {middle - 270, deckTop + 36, 146, 20});
   const ui::Rect outline{inner.w / 2 - 170, deckTop, 340, 98};
   ScoringLabelOutline.Place = outline;

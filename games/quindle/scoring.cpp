@@ -158,12 +158,12 @@ void frmQuindle::PayAtOnce(std::int64_t points) {
 
 void frmQuindle::GoOnAfterRound() {
   if (QuindleRound == 1) {
-    ShowMessage("Prepare for Round Two!", ui::Red);
+    ShowMessage("Prepare for Round Two!", Message.TextColor());
     Flash(Message, RoundFlashes);
     StartRound(2);
   } else if (QuindleRound == 2 && shared.CurrentScore >= values_.BonusRoundScore) {
     Wave("HighScore.wav");
-    ShowMessage("Bonus Round!", ui::Red);
+    ShowMessage("Bonus Round!", Message.TextColor());
     Flash(Message, RoundFlashes);
     StartRound(3);
     Round.Number.Text = "Bonus";

@@ -146,7 +146,8 @@ void frmQuindle::ShowModeInCaption() {
 
 void frmQuindle::PlaceBoard(ui::Size inner) {
   const int middle = (inner.w - 84) / 2;
-  const int top = std::max(6, (inner.h - 433) / 4);
+  const int spare = std::max(0, inner.h - 433);
+  const int top = std::max(6, spare / 4);
   FieldCardPicture.ForEach([&](int i, ui::Picture& picture) {
     const Spot spot = Spots[i];
     picture.Place = {middle + static_cast<int>(spot.column * ColumnStep) - Card.w / 2,
@@ -154,18 +155,18 @@ void frmQuindle::PlaceBoard(ui::Size inner) {
     FieldSelectionRectangle(i).Place = {picture.Place().x - 1, picture.Place().y - 1,
                                         SelectionFrame.w, SelectionFrame.h};
   });
-  const int lower = inner.h - 138;
+  const int lower = inner.h - 138 - spare / 3;
   PlayCardPicture.Place = {middle - 90, lower, 76, 98};
   UpCardPicture.Place = {middle + 14, lower, Card.w, Card.h};
   UpCardSelectionRectangle.Place = {middle + 13, lower - 1, SelectionFrame.w, SelectionFrame.h};
   core::CenterIn(lblCardCount, {middle - 110, lower + 102, 116, 20});
-  Clock.SetPlace({inner.w - 92, inner.h - 208});
-  Round.SetPlace({inner.w - 92, inner.h - 96, 84, 44});
-  Score.SetPlace({12, inner.h - 96, 116, 44});
-  Elevens.SetPlace({12, inner.h - 146, 116, 44});
-  core::CenterIn(lblHighScore, {4, inner.h - 44, 240, 20});
+  Clock.SetPlace({inner.w - 92, inner.h - 196});
+  Round.SetPlace({inner.w - 92, inner.h - 84, 84, 44});
+  Score.SetPlace({12, inner.h - 84, 116, 44});
+  Elevens.SetPlace({12, inner.h - 134, 116, 44});
+  core::CenterIn(lblHighScore, {4, inner.h - 36, 240, 20});
   lblHighScore.Alignment = ui::Align::Left;
-  lblHighScore.MoveTo(12, inner.h - 44);
+  lblHighScore.MoveTo(12, inner.h - 36);
   Total.SetPlace({middle + 110, lower + 24, 84, 44});
   lblMessage_Change();
 }

@@ -70,6 +70,7 @@ frmVermoy::frmVermoy(core::Suite& suite, const core::GameEntry& entry)
   lblScoring.FontSize = 18;
   lblOverWrites.Wrap = lblPointsEarned.Wrap = lblHighScore.Wrap = true;
   lblMessage.Visible = lblScoring.Visible = ScoringLabelOutline.Visible = false;
+  lblTimeBonus.Visible = false;
   // The messages lie on the outline, which is declared after the frame's own labels.
   BringToFront(Message);
   ShowHands();

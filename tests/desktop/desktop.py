@@ -8,6 +8,9 @@ import tempfile
 import threading
 import time
 
+# A window manager that grabs no clicks: when it replays one, the press may get the place before.
+MANAGER = """<openbox_config><mouse/><keyboard>
+<keybind key="A-F4"><action name="Close"/></keybind></keyboard></openbox_config>"""
 PATIENCE = 8.0  # seconds until a thing that should happen counts as missing
 
 
@@ -30,8 +33,12 @@ class Display:
         self.manager = None
         self.programs = []
         try:
-            self.manager = subprocess.Popen(["openbox"], env=self.environment,
-                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            config = os.path.join(tempfile.mkdtemp(), "rc.xml")
+            with open(config, "w") as file:
+                file.write(MANAGER)
+            self.manager = subprocess.Popen(["openbox", "--config-file", config],
+                                            env=self.environment, stdout=subprocess.DEVNULL,
+                                            stderr=subprocess.DEVNULL)
             time.sleep(0.3)
         except FileNotFoundError:
             pass
@@ -46,7 +53,7 @@ class Display:
         return subprocess.run(words, env=self.environment, check=True, capture_output=True).stdout
 
     def shot(self, path):
-        self.run("import", "-window", "root", path)
+        subprocess.run(["import", "-window", "root", path], env=self.environment)
 
 
 class Program:
@@ -75,6 +82,21 @@ class Program:
     def text(self, name):
         return self.ask("text " + name)
 
+    def sees(self, name, text):
+        self.until(lambda: self.text(name) == text, "%s = '%s'" % (name, text))
+
+    def ready(self, active):
+        """Waits until a window, or a box whose message begins so, stands still with the keyboard."""
+        before = None
+        end = time.time() + PATIENCE
+        while time.time() < end:
+            answer = self.ask("active")
+            if answer == before and answer.startswith(active):
+                return
+            before = answer
+            time.sleep(0.06)
+        raise Failure("'%s' has not come up, but: %s" % (active, before))
+
     def place(self, name):
         """Left, top, width and height on the screen; waits until the control is shown."""
         end = time.time() + PATIENCE
@@ -86,25 +108,25 @@ class Program:
         raise Failure(name + " is not shown")
 
     def move(self, name, x=0.5, y=0.5):
-        left, top, width, height = self.place(name)
-        self.display.run("xdotool", "mousemove", str(int(left + width * x)),
-                         str(int(top + height * y)))
+        self.move_to(self.place(name), x, y)
 
-    def click_at(self, place):
-        """A click in the middle of a place that was asked for before."""
+    def move_to(self, place, x=0.5, y=0.5, *more):
         left, top, width, height = place
-        self.display.run("xdotool", "mousemove", str(left + width // 2), str(top + height // 2),
-                         "click", "1")
+        self.display.run("xdotool", "mousemove", str(int(left + width * x)),
+                         str(int(top + height * y)), *more)
+
+    def click_at(self, place, x=0.5, y=0.5):
+        """A click on a place that was asked for before."""
+        self.move_to(place, x, y, "click", "--delay", "0", "1")
 
     def click(self, name, x=0.5, y=0.5):
-        self.move(name, x, y)
-        self.display.run("xdotool", "click", "1")
+        self.click_at(self.place(name), x, y)
 
     def keys(self, *names):
         self.display.run("xdotool", "key", *names)
 
     def type(self, text):
-        self.display.run("xdotool", "type", "--delay", "5", text)
+        self.display.run("xdotool", "type", "--delay", "5", "--", text)
 
     def pixel(self, name, x=0.5, y=0.5):
         """The colour that the screen shows at a place of a control, read from the screen itself."""

@@ -5,6 +5,9 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QSocketNotifier>
 #include <QWidget>
 #include <QWindow>
@@ -16,8 +19,10 @@
 
 class Probe::Reader {
  public:
-  explicit Reader(ui::qt::QtPlatform& platform)
-      : platform_(platform), notifier_(STDIN_FILENO, QSocketNotifier::Read) {
+  Reader(ui::qt::QtPlatform& platform, Stage stage)
+      : platform_(platform),
+        stage_(std::move(stage)),
+        notifier_(STDIN_FILENO, QSocketNotifier::Read) {
     QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] { Read(); });
   }
 
@@ -39,13 +44,28 @@ class Probe::Reader {
   std::string Answer(const std::string& question) const {
     std::istringstream words(question);
     std::string verb, name;
-    words >> verb >> name;
+    words >> verb;
     if (verb == "windows") return Windows();
+    if (verb == "active") return Active();
+    if (verb == "busy") return platform_.HandlerAtWork() ? "yes" : "no";
+    if (verb != "text" && verb != "spoken" && verb != "place") {
+      stage_(verb, words);
+      return "staged";
+    }
+    words >> name;
     const ui::Control* control = FindControl(name);
     if (!control) return "none";
     if (verb == "text") return TextOf(*control);
-    if (verb == "spoken") return SpokenAt(*control);
-    return PlaceOf(*control);
+    return verb == "spoken" ? SpokenAt(*control) : PlaceOf(*control);
+  }
+
+  static std::string Active() {
+    const QWidget* active = QApplication::activeWindow();
+    if (!active) return "none";
+    const auto* box = qobject_cast<const QMessageBox*>(active);
+    const QString name =
+        box ? QStringLiteral("box ") + box->text().simplified() : active->objectName();
+    return ui::qt::FromQt(name) + "@" + OnScreen(*active, active->rect());
   }
 
   /// What a screen reader finds at the middle of a control: its role's number and its name.
@@ -54,7 +74,8 @@ class Probe::Reader {
     int x = 0, y = 0, w = 0, h = 0;
     if (!(place >> x >> y >> w >> h)) return "none";
     const QPoint middle(x + w / 2, y + h / 2);
-    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(QApplication::activeWindow());
+    QAccessibleInterface* found =
+        QAccessible::queryAccessibleInterface(QApplication::activeWindow());
     while (QAccessibleInterface* inner = found ? found->childAt(middle.x(), middle.y()) : nullptr) {
       found = inner;
     }
@@ -101,6 +122,7 @@ class Probe::Reader {
     const QString name = ui::qt::ToQt(control.FullName());
     for (QWidget* top : QApplication::topLevelWidgets()) {
       if (top->objectName() != ui::qt::ToQt(control.Owner().Name()) || !IsOnScreen(*top)) continue;
+      if (auto* action = top->findChild<QAction*>(name)) return PlaceInMenu(*action);
       if (auto* widget = top->findChild<QWidget*>(name)) {
         return widget->isVisible() ? OnScreen(*widget, widget->rect()) : "none";
       }
@@ -108,6 +130,16 @@ class Probe::Reader {
         const ui::Rect place = control.PlaceInWindow();
         return control.Shown() ? OnScreen(*board, {place.x, place.y, place.w, place.h}) : "none";
       }
+    }
+    return "none";
+  }
+
+  static std::string PlaceInMenu(QAction& action) {
+    for (QObject* place : action.associatedObjects()) {
+      const auto* bar = qobject_cast<QMenuBar*>(place);
+      const auto* menu = qobject_cast<QMenu*>(place);
+      if (bar) return OnScreen(*bar, bar->actionGeometry(&action));
+      if (menu && menu->isVisible()) return OnScreen(*menu, menu->actionGeometry(&action));
     }
     return "none";
   }
@@ -126,9 +158,11 @@ class Probe::Reader {
   }
 
   ui::qt::QtPlatform& platform_;
+  const Stage stage_;
   QSocketNotifier notifier_;
   std::string pending_;
 };
 
-Probe::Probe(ui::qt::QtPlatform& platform) : reader_(std::make_unique<Reader>(platform)) {}
+Probe::Probe(ui::qt::QtPlatform& platform, Stage stage)
+    : reader_(std::make_unique<Reader>(platform, std::move(stage))) {}
 Probe::~Probe() = default;

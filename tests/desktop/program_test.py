@@ -1,7 +1,6 @@
-"""The desktop program played by a person: pointer, keys, questions, dialogs and sounds."""
+"""The desktop program at one player's table: keyboard alone, dialogs, files, sizes and sounds."""
 
 import array
-import itertools
 import os
 import sys
 import tempfile
@@ -10,111 +9,149 @@ import time
 from desktop import Program, check, play
 
 PASTIMO = sys.argv[1]
-GOAL = 11
-FIELD = ["FieldCardPicture(%d)" % i for i in range(22)]
 
 
 def start(display, **environment):
     home = tempfile.mkdtemp()
-    return Program(display, [PASTIMO], PASTIMO_HOME=home, **environment), home
+    program = Program(display, [PASTIMO], PASTIMO_HOME=home, PASTIMO_PACE="10", **environment)
+    program.ready("frmSelect")
+    return program, home
 
 
 def open_quindle(program):
     program.click("cmdQuindle")
-    program.place("cmdPlay")
-    program.until(lambda: program.ask("windows") == "frmQuindle frmSelect:hidden", "the game alone")
-    time.sleep(0.3)
+    program.ready("frmQuindle")
 
 
-def rank(key):
-    return int(key[:-1])
+def play_quindle(program):
+    program.keys("alt+p")
+    program.sees("lblCardCount", "Cards: 30")
 
 
-def exposed(program):
-    """The cards of the field that no later card lies upon."""
-    places = []
-    for name in FIELD:
-        answer = program.ask("place " + name)
-        places.append(None if answer == "none" else [int(word) for word in answer.split()])
-
-    def overlap(a, b):
-        return abs(a[0] - b[0]) < a[2] and abs(a[1] - b[1]) < a[3]
-
-    return [name for i, name in enumerate(FIELD) if places[i] and not any(
-        later and overlap(places[i], later) for later in places[i + 1:])]
+def close_game(program):
+    program.keys("alt+F4")
+    program.ready("box Giving up so soon?")
+    program.keys("alt+y")
+    program.ready("frmSelect")
 
 
-def a_set(program):
-    """Cards that can be selected and make the goal; nothing if there are none."""
-    names = [name for name in exposed(program) + ["UpCardPicture"]
-             if program.text(name)[-1:] in tuple("SHCD")]
-    for count in range(1, len(names) + 1):
-        for cards in itertools.combinations(names, count):
-            if sum(rank(program.text(card)) for card in cards) == GOAL:
-                return cards
-    return ()
+def settings(home, file):
+    """What a settings file holds: each key and the line behind it."""
+    with open(os.path.join(home, file)) as lines:
+        rows = lines.read().split("\n")
+    return {row: rows[i + 1] for i, row in enumerate(rows) if row.startswith("[")}
 
 
-def make_sets(program, wanted):
-    """Makes so many sets, and draws as often as it takes."""
-    while int(program.text("lblCurrentElevens")) < wanted:
-        before = program.text("lblCurrentElevens")
-        cards = a_set(program)
-        for card in cards:
-            program.click(card, 0.5, 0.85)
-        if cards:
-            program.until(lambda: program.text("lblCurrentElevens") != before, "a set: %s" % (cards,))
-        else:
-            count = program.text("lblCardCount")
-            program.click("PlayCardPicture")
-            program.until(lambda: program.text("lblCardCount") != count, "a draw")
-        time.sleep(0.05)
+def without_a_mouse(display):
+    """From the launcher into a game, through its dialog, over its cards, and out again."""
+    program, home = start(display)
+    program.keys("alt+h")
+    program.ready("frmHarvel@")
+    program.keys("alt+o", "u")
+    program.ready("frmHarvelCustomScoring")
+    program.keys("Tab")
+    program.type("1234")
+    program.keys("alt+s", "Return")
+    program.ready("box The scoring options for Harvel! are not set to their default settings.")
+    program.keys("Return")
+    program.ready("frmHarvel@")
+    close_game(program)
+    kept = settings(home, "Harvel.Ini")
+    check((kept["[TwentyOne Bonus Value]"], kept["[Timer Speed]"]) == ("1234", "180"), kept)
+
+    program.keys("alt+q")
+    program.ready("frmQuindle")
+    program.ask("deck" + " 9D" * 52)
+    play_quindle(program)
+    check(program.ask("spoken FieldCardPicture(21)").startswith("button "), "a card is spoken of")
+    program.keys("shift+Tab", "Down", "Down", "Right", "space")
+    program.sees("lblCurrentTotal", "9")
+    program.keys("alt+F4")
+    program.ready("box You have a game in progress. Are you sure you want to quit now?")
+    program.keys("Escape")
+    program.until(lambda: program.text("cmdPause") == "Pau&se", "the game goes on")
+    program.ready("frmQuindle")
+    program.keys("alt+F4")
+    program.ready("box You have a game in progress. Are you sure you want to quit now?")
+    program.keys("alt+y")
+    program.ready("frmSelect")
+    program.keys("alt+F4")
+    check(program.ended() == 0, "exit status")
 
 
-def a_game_of_quindle(display):
+def dialog_by_mouse(display):
+    """A refused value is told of and replaced; what OK takes is kept."""
+    program, home = start(display)
+    program.click("cmdHarvel")
+    program.ready("frmHarvel@")
+
+    def enter(text, message):
+        program.click("txtNumberOfCardsToPass")
+        program.keys("ctrl+a")
+        program.type(text)
+        program.click("cmdOK")
+        program.ready("box " + message)
+        program.keys("Return")
+
+    program.click("mnuOptions")
+    program.click("mnuUserOptions")
+    program.ready("frmHarvelCustomScoring")
+    program.click("optSlowest", 0.1)
+    program.click("chkCountScore", 0.1)
+    enter("-1", "Sorry, you cannot pass fewer than 0 cards.")
+    program.ready("box The scoring options for Harvel! are not set to their default settings.")
+    program.keys("Return")
+    program.ready("frmHarvelCustomScoring")
+    check(program.text("txtNumberOfCardsToPass") == "0", "the refused value is replaced")
+    enter("5", "The scoring options for Harvel! are not set to their default settings.")
+    program.ready("frmHarvel@")
+    close_game(program)
+    kept = settings(home, "Harvel.Ini")
+    check((kept["[Cards To Pass]"], kept["[Timer Speed]"], kept["[Count Down Score]"])
+          == ("5", "360", "False"), kept)
+
+
+def files_and_sizes(display):
+    """The rules are read, a game is saved and opened by typed paths, the size is kept."""
     program, home = start(display)
     open_quindle(program)
-    program.keys("alt+o", "d")
-    program.keys("alt+p")
-    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "thirty cards to draw")
-    check(program.ask("spoken " + FIELD[21]).startswith("button "), "a card is spoken of")
-
-    make_sets(program, 2)
-    left = int(program.text("lblCardCount").split()[1])
-    program.click("PlayCardPicture")
-    program.until(lambda: program.text("lblCardCount") == "Cards: %d" % (left - 1), "one drawn")
-
-    program.keys("alt+s")
-    program.until(lambda: program.text("lblMessage") == "Game Paused", "a pause")
-    check(program.text(FIELD[0]) == "BACK", "a paused card is turned down")
-    program.keys("alt+r")
-    program.until(lambda: program.text("cmdPause") == "Pau&se", "the game goes on")
-
-    pile, card = program.place("PlayCardPicture"), program.place(exposed(program)[0])
+    program.click("mnuHelp")
+    program.click("mnuRules")
+    program.ready("frmRules")
+    program.click("cmdOK")
+    program.ready("frmQuindle")
+    program.ask("deck" + " 9D" * 52)
+    play_quindle(program)
     program.keys("alt+t")
-    program.until(lambda: "Speed Bonus" in program.text("lblMessage"), "the bonus is counted")
-    for place in (pile, card, program.place("cmdExit"), card):
-        program.click_at(place)
-    check("Speed Bonus" in program.text("lblMessage"), "a click has disturbed the count")
-    program.until(lambda: program.text("lblCurrentRound") == "2", "round two")
-    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "a fresh deck")
-    check(program.text("lblCurrentTotal") == "0", "a click came late")
-    check(program.ask("windows") == "frmQuindle frmSelect:hidden", "a click came late")
+    program.sees("lblCurrentRound", "2")
+    program.until(lambda: program.ask("busy") == "no", "round two")
+    program.keys("alt+t")
+    program.sees("cmdTakeScore", "&Replay")
+    program.until(lambda: program.ask("busy") == "no", "the end of the game")
 
-    time.sleep(0.3)
-    program.click("cmdPlay")
-    time.sleep(0.5)
-    program.keys("alt+y")
-    program.until(lambda: program.text("cmdPlay") == "&Play", "the game is over")
-    time.sleep(0.3)
+    saved = os.path.join(home, "mine.qdl")
+    for letter in "vo":
+        program.keys("alt+g", letter)
+        program.ready("QFileDialog")
+        program.type(saved)
+        while program.ask("busy") == "yes":  # a list of what the name could become takes one
+            program.keys("Return")
+            time.sleep(0.5)
+        check(os.path.exists(saved), "the game is saved")
+    program.sees("cmdPlay", "&End Game")
+    program.sees("FieldCardPicture(0)", "9D")
+
+    search = ["xdotool", "search", "--name", "^Quindle!"]
+    display.run(*search, "windowsize", "900", "700")
+    program.until(lambda: program.ask("active").endswith(" 900 700"), "a larger window")
     program.keys("alt+F4")
-    time.sleep(0.5)
+    program.ready("box You have a game in progress.")
     program.keys("alt+y")
-    program.until(lambda: program.ask("windows") == "frmSelect", "back in the launcher")
-    time.sleep(0.3)
-    program.click("cmdClose")
-    check(program.ended() == 0, "exit status")
-    check(os.path.exists(os.path.join(home, "Quindle.Ini")), "settings are written")
+    program.ready("frmSelect")
+    check(int(settings(home, "Quindle.Ini")["[Width]"]) >= 900 * 15, "the width is kept")
+    open_quindle(program)
+    display.run(*search, "windowsize", "300", "200")
+    program.until(lambda: program.ask("active").endswith(" 635 477"), "the smallest size")
 
 
 def loudest(path):
@@ -131,8 +168,7 @@ def sounds(display):
     program, _ = start(display, **heard)
     check(not os.path.exists(record), "the sound device is opened at the start")
     open_quindle(program)
-    program.keys("alt+p")
-    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "a game")
+    play_quindle(program)
     program.click("PlayCardPicture")
     program.until(lambda: os.path.exists(record) and loudest(record) > 1000, "a wave is heard")
     program.close()
@@ -141,8 +177,7 @@ def sounds(display):
     program, _ = start(display, **heard)
     open_quindle(program)
     program.keys("alt+o", "p")
-    program.keys("alt+p")
-    program.until(lambda: program.text("lblCardCount") == "Cards: 30", "a game")
+    play_quindle(program)
     program.click("PlayCardPicture")
     time.sleep(0.7)
     check(not os.path.exists(record) or loudest(record) == 0, "sounds are off")
@@ -156,111 +191,4 @@ def sounds(display):
     program.until(lambda: os.path.exists(record) and loudest(record) > 1000, "music is heard")
 
 
-# Of each game: its button and window, what is clicked, and the text that some click must change.
-GAMES = [
-    ("cmdMozaro", "frmMozaro", None, "lblTotalScore"),
-    ("cmdBrenlock", "frmBrenlock", ["cmdHit(0)"], "ColumnTotal(0)"),
-    ("cmdHarvel", "frmHarvel", ["cmdHit(0)"], "lblCardsUsedCount"),
-    ("cmdOstrel", "frmOstrel", ["CardStackPicture"], "lblCards"),
-    ("cmdPellow", "frmPellow", ["CardStackPicture"], "lblCards"),
-    ("cmdVermoy", "frmVermoy", ["PlayCards(0)"], "lblCards"),
-    ("cmdKestrane", "frmKestrane", ["UpCard(2)", "PlayCard(0)"], "lblCardCount"),
-    ("cmdPhrase", "frmPhrase", ["cmdLetter(%d)" % i for i in (19, 13, 17, 18, 11, 2)],
-     "lblCurrentScore"),
-    ("cmdFandrel", "frmFandrel", ["imgPlayCard(1)", "imgUpperCard(1)"], "lblCardCount"),
-]
-
-
-def clicks_on(program, controls):
-    """The places to be clicked in turn: those controls, or points all over Mozaro's grid."""
-    if controls:
-        return [(name, 0.5, 0.5) for name in controls]
-    return [("PlayingSurface", x / 14 + 0.03, y / 8 + 0.05) for y in range(8) for x in range(14)]
-
-
-def every_game(display):
-    """Each game opens, is played by a click on its board, stands still paused, and closes."""
-    program, home = start(display)
-    for button, window, controls, counter in GAMES:
-        program.click(button)
-        program.until(lambda: program.ask("windows") == window + " frmSelect:hidden", window)
-        time.sleep(0.3)
-        program.click("cmdPlay")
-        program.until(lambda: program.text("cmdPlay") != "&Play", window + " is played")
-        time.sleep(0.2)
-        before = program.text(counter)
-        for name, x, y in clicks_on(program, controls):
-            if program.text(counter) == before:
-                program.click(name, x, y)
-                time.sleep(0.15)
-        program.until(lambda: program.text(counter) != before, counter + " of " + window)
-        program.click("cmdPause")
-        program.until(lambda: program.text("cmdPause") == "&Resume", window + " is paused")
-        program.click("cmdPause")
-        program.until(lambda: program.text("cmdPause") != "&Resume", window + " goes on")
-        program.keys("alt+F4")
-        time.sleep(0.6)
-        program.keys("alt+y")
-        program.until(lambda: program.ask("windows") == "frmSelect", "back from " + window)
-        time.sleep(0.3)
-    settings = [name for name in os.listdir(home) if name.endswith(".Ini")]
-    check(len(settings) == len(GAMES), "every game has written its settings: %s" % settings)
-
-
-def windows_and_dialogs(display):
-    """A score enters its table, and each window of a game is opened, used and closed."""
-    home = tempfile.mkdtemp()
-    with open(os.path.join(home, "Quindle.Ini"), "w") as file:
-        file.write("[DrawTimer]\r\nFalse\r\n\r\n")
-    table = os.path.join(home, "Quindle Hi Score Table ES 11_90.Txt")
-    with open(table, "w") as file:
-        file.write("Corvane, 10, Jan 01 2000 12:00 am\r\n" * 10 + "\r\n")
-    program = Program(display, [PASTIMO], PASTIMO_HOME=home)
-    open_quindle(program)
-
-    def opened(window):
-        program.until(lambda: program.ask("windows").startswith(window), window)
-        time.sleep(0.3)
-
-    def alone():
-        program.until(lambda: program.ask("windows") == "frmQuindle frmSelect:hidden", "the game")
-        time.sleep(0.3)
-
-    program.keys("alt+h", "r")
-    opened("frmRules")
-    program.click("cmdOK")
-    alone()
-
-    program.keys("alt+p")
-    program.until(lambda: program.text("cmdPlay") != "&Play", "a game")
-    time.sleep(0.3)
-    for _ in range(2):
-        program.keys("alt+t")
-        time.sleep(6.5)
-    opened("frmHiScoreName")
-    program.type("Ann")
-    program.click("cmdOK")
-    opened("frmHighScores")
-    program.click("cmdDone")
-    program.until(lambda: program.text("cmdTakeScore") == "&Replay", "the end of the game")
-    with open(table) as file:
-        check(file.readline().startswith("Ann, 18000, "), "the score stands in the table")
-
-    time.sleep(2.5)
-    saved = os.path.join(home, "mine.qdl")
-    program.keys("alt+g", "v")
-    time.sleep(1.5)
-    program.type(saved)
-    program.keys("Return")
-    program.until(lambda: os.path.exists(saved), "the game is saved")
-    time.sleep(0.3)
-    program.keys("alt+g", "o")
-    time.sleep(1.5)
-    program.type(saved)
-    program.keys("Return")
-    time.sleep(1)
-    program.keys("Return")
-    program.until(lambda: program.text("cmdPlay") == "&End Game", "the saved game is played")
-
-
-play([a_game_of_quindle, sounds, every_game, windows_and_dialogs])
+play([without_a_mouse, dialog_by_mouse, files_and_sizes, sounds])

@@ -101,7 +101,7 @@ class Player {
         process_ = std::make_unique<Process>(words_);
         break;
       case Part::Kind::Command:
-        process_->Send(Meant(part.text));
+        return Judge(part, CompareAnswer(part.expected, Told(AnswersTo(part))));
     }
     Judge(part, CompareAnswer(part.expected, Told(process_->ReadAnswer())));
   }
@@ -110,6 +110,19 @@ class Player {
   void TakeArgs(const std::string& text) {
     std::istringstream in(text);
     for (std::string word; in >> std::quoted(word);) words_.push_back(word);
+  }
+
+  /// The answers in a row, with only the last one's `ok`.
+  Lines AnswersTo(const Part& part) {
+    Lines all;
+    for (int i = 0; i < part.times; ++i) {
+      if (!all.empty()) all.pop_back();
+      process_->Send(Meant(part.text));
+      const Lines answer = process_->ReadAnswer();
+      all.insert(all.end(), answer.begin(), answer.end());
+      if (answer.back() != "ok") break;
+    }
+    return all;
   }
 
   void PlayLines(const Part& part) {

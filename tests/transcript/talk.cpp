@@ -10,6 +10,8 @@ namespace {
 
 using Kind = Part::Kind;
 
+const std::string Question = "? ";
+
 bool IsNote(const std::string& line) {
   return line.empty() || line[0] == '#';
 }
@@ -52,7 +54,7 @@ class Reader {
   }
 
   void Begin(Kind kind, std::string text) {
-    parts_.push_back({kind, std::move(text), line_, {}, {}});
+    parts_.push_back({kind, std::move(text), line_, 1, {}, {}});
   }
 
   /// What comes from here on needs a program that runs.
@@ -67,6 +69,7 @@ class Reader {
   }
 
   void TakeLine(const std::string& line) {
+    if (TakeRepeated(line) || TakeQuestion(line)) return;
     for (const Opening& opening : Openings) {
       if (!line.starts_with(opening.text)) continue;
       Open(opening.kind, line.substr(std::string(opening.text).size()));
@@ -82,6 +85,26 @@ class Reader {
     }
     parts_.back().original.push_back(line);
     if (!IsNote(line)) parts_.back().expected.push_back(line);
+  }
+
+  bool TakeQuestion(const std::string& line) {
+    if (!line.starts_with(Question)) return false;
+    const std::string answer = line.substr(Question.size());
+    std::string asked = answer.substr(0, answer.find(" = "));
+    if (const auto point = asked.rfind('.'); point != std::string::npos) asked[point] = ' ';
+    Open(Kind::Command, "get " + asked);
+    parts_.back().original.push_back(line);
+    parts_.back().expected.push_back(answer);
+    return true;
+  }
+
+  bool TakeRepeated(const std::string& line) {
+    const auto space = line.find(' ');
+    if (line[0] != '>' || space == std::string::npos || space < 2) return false;
+    Open(Kind::Command, line.substr(space + 1));
+    parts_.back().times = std::stoi(line.substr(1, space - 1));
+    parts_.back().original.push_back(line);
+    return true;
   }
 
   bool HasStarted() const {
@@ -111,8 +134,13 @@ std::vector<Part> ReadTalk(const std::string& path) {
 
 void SetExpected(Part& part, const std::vector<std::string>& expected) {
   std::vector<std::string> lines;
-  if (part.kind != Kind::Start) lines.push_back(part.original.front());
-  lines.insert(lines.end(), expected.begin(), expected.end());
+  const bool asks = part.kind != Kind::Start && part.original.front().starts_with(Question);
+  if (asks && expected.size() == 1) {
+    lines.push_back(Question + expected.front());
+  } else {
+    if (part.kind != Kind::Start) lines.push_back(asks ? "> " + part.text : part.original.front());
+    lines.insert(lines.end(), expected.begin(), expected.end());
+  }
   if (HoldsLines(part.kind)) {
     lines.push_back("@end");
   } else {

@@ -17,6 +17,8 @@ namespace transcript {
 ///   @repeat N           the commands up to `@end`, a line each, are sent N times over; each must
 ///                       be answered by `ok` alone
 ///   > COMMAND           is sent to the program; what follows is the answer
+///   >N COMMAND          is sent N times, or until it is refused; what follows is all the answers
+///   ? LINE              asks, with `get`, for the value that LINE tells: the answer is LINE
 ///   ...                 any number of lines, in an answer or in an expected file
 ///   other lines         the answer, in order; those before the first command are the start-up's
 ///
@@ -28,6 +30,7 @@ struct Part {
   Kind kind = Kind::Note;
   std::string text;                   ///< the words, the file's name, the number, or the command
   int line = 0;                       ///< where it begins, from 1
+  int times = 1;                      ///< that the command is sent
   std::vector<std::string> original;  ///< its lines as they stand in the file
   std::vector<std::string> expected;  ///< the answer, or the lines up to `@end`
 };

@@ -1,4 +1,4 @@
-"""What is no card: empty places, hand pointer, emblem, guess tokens, icon and table cloth."""
+"""What is no card: empty places, hand pointer, emblem, guess tokens and table cloth."""
 
 import math
 
@@ -115,23 +115,6 @@ def blank():
     return document(40, 40, ring + tick)
 
 
-def icon_card(suit, angle, x, y):
-    body = rect(-12, -17, 24, 34, 3.4, IVORY, "#20303a", 1.2) + pip(suit, 0, -2, 17)
-    return group(body, f"translate({x} {y}) rotate({angle})")
-
-
-def icon():
-    """Two fanned cards and a coloured box on a green tile."""
-    tile = rect(1.5, 1.5, 61, 61, 14, "url(#felt)", "#0a3a26", 1.6)
-    cards = icon_card("S", -16, 22, 28) + icon_card("H", 12, 39, 27)
-    edges = "M42 34L57 40.4L57 53.4L42 60L27 53.4L27 40.4ZM27 40.4L42 47L57 40.4M42 47L42 60"
-    box = (path("M42 34L57 40.4L42 47L27 40.4Z", "#ffcf5a")
-           + path("M27 40.4L42 47L42 60L27 53.4Z", "#f28a1e")
-           + path("M57 40.4L42 47L42 60L57 53.4Z", "#b8530c")
-           + path(edges, stroke="#5a2604", width=1.3, extra=ROUND_ENDS))
-    return document(64, 64, tile + cards + box, linear("felt", "#3fae74", "#14633f"))
-
-
 def felt():
     """A tile of the table cloth; it repeats without a seam."""
     lattice = path("M0 0L28 28L0 56M28 28L56 0M28 28L56 56", stroke="#1f7a50", width=1)
@@ -171,7 +154,6 @@ def pictures():
         "UNHAPPY.svg": unhappy(),
         "UNHAPPY2.svg": unhappy_other(),
         "BLANK.svg": blank(),
-        "pastimo.svg": icon(),
         "felt.svg": felt(),
         "background.svg": field(),
     }

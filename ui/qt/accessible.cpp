@@ -41,7 +41,8 @@ class PaintedControl : public QAccessibleInterface, public QAccessibleActionInte
       const auto& picture = static_cast<Picture&>(control_);
       return ToQt(board_.Host().Platform().DescriptionOf(picture.Key()));
     }
-    return ToQt(control_.Tip());
+    const std::string box = board_.FocusedBox(control_);
+    return ToQt(box.empty() ? control_.Tip() : box);
   }
 
   QRect rect() const override {

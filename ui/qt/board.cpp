@@ -3,6 +3,7 @@
 
 #include <QCursor>
 #include <QHelpEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -13,6 +14,7 @@
 #include "ui/qt/painters.h"
 #include "ui/qt/painting_order.h"
 #include "ui/qt/platform.h"
+#include "ui/qt/preferences.h"
 #include "ui/qt/qt_window.h"
 #include "ui/qt/strings.h"
 
@@ -36,6 +38,12 @@ bool TakesPointer(const Control& control) {
     default:
       return HasHandlers(control);
   }
+}
+
+bool HoldsBoxes(const Surface& surface) {
+  const auto& drawing = surface.Drawing();
+  return std::any_of(drawing.begin(), drawing.end(),
+                     [](const Stroke& stroke) { return stroke.form == Stroke::Form::Box; });
 }
 
 QRect Clickable(const Control& control) {
@@ -63,7 +71,8 @@ void Board::paintEvent(QPaintEvent* event) {
   hasBeenPainted_ = true;
   QPainter painter(this);
   const auto order = PaintingOrder(*window);
-  const Scene scene{host_.Platform().Pictures(), devicePixelRatioF(), order};
+  const Scene scene{host_.Platform().Pictures(), devicePixelRatioF(), order,
+                    HasBoxes() && host_.Platform().Wishes().BoxSigns()};
   for (const QRect& part : event->region()) {
     PaintGround(painter, *window, size(), part, scene);
   }
@@ -129,6 +138,22 @@ void Board::mouseReleaseEvent(QMouseEvent* event) {
 
 void Board::mouseMoveEvent(QMouseEvent* event) {
   Move(event->position().toPoint());
+}
+
+/// What can be wished of coloured boxes.
+void Board::contextMenuEvent(QContextMenuEvent* event) {
+  if (!HasBoxes()) return;
+  Preferences& wishes = host_.Platform().Wishes();
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  QAction* signs = menu->addAction(QStringLiteral("&Signs on the boxes"));
+  signs->setCheckable(true);
+  signs->setChecked(wishes.BoxSigns());
+  connect(signs, &QAction::toggled, this, [this, &wishes](bool wanted) {
+    wishes.SetBoxSigns(wanted);
+    update();
+  });
+  menu->popup(event->globalPos());
 }
 
 void Board::leaveEvent(QEvent*) {
@@ -208,12 +233,22 @@ bool Board::event(QEvent* event) {
   return QWidget::event(event);
 }
 
+bool Board::HasBoxes() const {
+  const Window* window = Model();
+  if (!window) return false;
+  const auto& controls = window->Controls();
+  return std::any_of(controls.begin(), controls.end(), [](const Control* control) {
+    return control->GetKind() == Kind::Surface && control->Shown() &&
+           HoldsBoxes(static_cast<const Surface&>(*control));
+  });
+}
+
 std::vector<Control*> Board::Readable() const {
   std::vector<Control*> readable;
   const Window* window = Model();
   if (!window || !window->Layout().Empty()) return readable;
   for (Control* control : PaintingOrder(*window)) {
-    if (!control->Shown()) continue;
+    if (!control->Shown() || IsEmptied(*control)) continue;
     const Kind kind = control->GetKind();
     if (kind == Kind::Label || kind == Kind::Picture || kind == Kind::Surface) {
       readable.push_back(control);

@@ -28,9 +28,12 @@ class Board : public QWidget {
   Control* ControlAt(QPoint at) const;
   QtWindow& Host() const { return host_; }
   void Click(Control& control);
+  bool HasTargets() const { return !Targets().empty(); }
   /// What the keyboard points at; null for nothing.
   const Control* FocusedControl() const { return focusShown_ ? focus_.control : nullptr; }
   bool HasBeenPainted() const { return hasBeenPainted_; }
+  /// The coloured box of a surface that the keyboard points at, in words; empty for none.
+  std::string FocusedBox(const Control& surface) const;
   /// The painted controls that a person would want to be told of, in painting order.
   std::vector<Control*> Readable() const;
 
@@ -41,6 +44,7 @@ class Board : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool event(QEvent* event) override;
@@ -51,6 +55,7 @@ class Board : public QWidget {
   void Move(QPoint at);
   void UpdatePointer();
   bool ShowTip(QPoint at, QPoint global);
+  bool HasBoxes() const;
 
   // The keyboard's way over the board: board_keys.cpp.
   std::vector<Target> Targets() const;

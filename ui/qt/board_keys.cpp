@@ -3,10 +3,14 @@
 #include <QKeyEvent>
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
+#include <set>
+#include <string>
 
 #include "ui/qt/accessible.h"
 #include "ui/qt/board.h"
+#include "ui/qt/color_words.h"
 #include "ui/qt/painters.h"
 #include "ui/qt/painting_order.h"
 #include "ui/qt/platform.h"
@@ -26,11 +30,17 @@ int DistanceAlong(QPoint from, QPoint to, int dx, int dy) {
   return ahead + SidewaysWeight * aside;
 }
 
+const Target& NearestTo(QPoint from, const std::vector<Target>& targets) {
+  return *std::min_element(targets.begin(), targets.end(), [&](const Target& a, const Target& b) {
+    return (a.area.center() - from).manhattanLength() < (b.area.center() - from).manhattanLength();
+  });
+}
+
 void AddBoxes(Surface& surface, std::vector<Target>& targets) {
   if (!surface.OnMouseDown) return;
   const QPoint corner = ToQt(surface.PlaceInWindow()).topLeft();
   for (const Stroke& stroke : surface.Drawing()) {
-    if (stroke.form != Stroke::Form::Box) continue;
+    if (stroke.form != Stroke::Form::Box || !stroke.filled) continue;
     targets.push_back({&surface, QRect(corner + QPoint(int(stroke.a), int(stroke.b)),
                                        QSize(int(stroke.c), int(stroke.c)))});
   }
@@ -43,7 +53,7 @@ std::vector<Target> Board::Targets() const {
   const Window* window = Model();
   if (!window || !window->Layout().Empty()) return targets;
   for (Control* control : PaintingOrder(*window)) {
-    if (!IsPainted(*control) || !control->Usable()) continue;
+    if (!IsPainted(*control) || !control->Usable() || IsEmptied(*control)) continue;
     if (control->GetKind() == Kind::Surface) AddBoxes(static_cast<Surface&>(*control), targets);
     if (!control->OnClick) continue;
     const QRect area = ToQt(control->PlaceInWindow());
@@ -52,6 +62,25 @@ std::vector<Target> Board::Targets() const {
     targets.push_back({control, area});
   }
   return targets;
+}
+
+std::string Board::FocusedBox(const Control& control) const {
+  if (FocusedControl() != &control || control.GetKind() != Kind::Surface) return {};
+  const QPoint corner = ToQt(control.PlaceInWindow()).topLeft();
+  std::set<double> columns, rows;
+  const Stroke* box = nullptr;
+  for (const Stroke& stroke : static_cast<const Surface&>(control).Drawing()) {
+    if (stroke.form != Stroke::Form::Box) continue;
+    columns.insert(stroke.a);
+    rows.insert(stroke.b);
+    if (corner + QPoint(int(stroke.a), int(stroke.b)) == focus_.area.topLeft()) box = &stroke;
+  }
+  if (!box) return {};
+  const auto place = [](const std::set<double>& edges, double edge) {
+    return std::to_string(std::distance(edges.begin(), edges.find(edge)) + 1);
+  };
+  return std::string(box->filled ? WordOf(box->color) : "empty") + ", column " +
+         place(columns, box->a) + ", row " + place(rows, box->b);
 }
 
 void Board::FocusOn(const Target& target) {
@@ -75,11 +104,12 @@ void Board::MoveFocus(int dx, int dy) {
   const bool known = std::any_of(targets.begin(), targets.end(), [&](const Target& target) {
     return target.control == focus_.control && target.area == focus_.area;
   });
+  const QPoint from = focus_.area.center();
   if (!known || !focusShown_) {
-    FocusOn(known ? focus_ : targets.front());
+    // What the ring lay on may have been played: it goes on from there.
+    FocusOn(known ? focus_ : focus_.control ? NearestTo(from, targets) : targets.front());
     return;
   }
-  const QPoint from = focus_.area.center();
   const auto distance = [&](const Target& t) {
     return DistanceAlong(from, t.area.center(), dx, dy);
   };

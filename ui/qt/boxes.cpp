@@ -1,10 +1,11 @@
 // Questions to the player.
 #include "ui/qt/boxes.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPointer>
+#include <QStandardPaths>
 
 #include "ui/qt/strings.h"
 
@@ -72,6 +73,12 @@ QString SuffixOf(const std::string& extension) {
   return suffix;
 }
 
+/// Where the player was last, at first where documents are kept.
+QString& FolderToShow() {
+  static QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return folder;
+}
+
 }  // namespace
 
 Answer AskBox(QWidget* above, Sign sign, Buttons buttons, const std::string& title,
@@ -92,11 +99,14 @@ std::optional<std::string> AskForFile(QWidget* above, const FileDialog& asked) {
   dialog.setNameFilter(FilterOf(asked.filter));
   dialog.setDefaultSuffix(SuffixOf(asked.defaultExtension));
   const QFileInfo given(ToQt(asked.fileName));
-  if (!asked.fileName.empty()) {
+  if (asked.fileName.empty()) {
+    dialog.setDirectory(QDir(FolderToShow()).exists() ? FolderToShow() : QDir::homePath());
+  } else {
     dialog.setDirectory(given.absolutePath());
     dialog.selectFile(given.fileName());
   }
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  if (asked.fileName.empty()) FolderToShow() = dialog.directory().absolutePath();
   return FromQt(dialog.selectedFiles().constFirst());
 }
 

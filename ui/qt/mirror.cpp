@@ -4,8 +4,8 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -22,6 +22,24 @@
 namespace ui::qt {
 namespace {
 
+constexpr int PictureInDialog = 32;  // pixels
+constexpr int CaptionGap = 12;       // pixels, at most, between a caption and what it names
+
+/// The text of the label that stands right above a control or to its left; empty for none.
+std::string CaptionBy(const Control& control) {
+  const Rect place = control.PlaceInWindow();
+  for (const Control* other : control.Owner().Controls()) {
+    if (other->GetKind() != Kind::Label || !other->Shown()) continue;
+    const Rect label = other->PlaceInWindow();
+    const bool above = label.x < place.Right() && place.x < label.Right() &&
+                       label.Bottom() <= place.y && place.y - label.Bottom() < CaptionGap;
+    const bool before = label.y < place.Bottom() && place.y < label.Bottom() &&
+                        label.Right() <= place.x && place.x - label.Right() < CaptionGap;
+    if (above || before) return static_cast<const Label&>(*other).Text();
+  }
+  return "";
+}
+
 bool EnabledThroughout(const Control& control) {
   for (const Control* c = &control; c; c = c->Container()) {
     if (!c->Enabled()) return false;
@@ -29,7 +47,11 @@ bool EnabledThroughout(const Control& control) {
   return true;
 }
 
-/// Watches for the focus that the player moves.
+bool IsArrow(int key) {
+  return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+/// Watches for the focus that the player moves; arrow keys lead from a button to the cards.
 class FocusWatch : public QObject {
  public:
   FocusWatch(QtWindow& host, Control& control, QObject* parent)
@@ -38,7 +60,8 @@ class FocusWatch : public QObject {
     if (event->type() == QEvent::FocusIn && ByPlayer(*static_cast<QFocusEvent*>(event))) {
       host_.FocusMoved(control_);
     }
-    return false;
+    if (event->type() != QEvent::KeyPress || control_.GetKind() != Kind::Button) return false;
+    return IsArrow(static_cast<QKeyEvent*>(event)->key()) && host_.FocusOnBoard();
   }
 
  private:
@@ -72,9 +95,11 @@ class ButtonMirror : public Mirror {
       widget_->setAccessibleName(QString());
       return;
     }
-    const QSize size(button_.Place().w - 8, button_.Place().h - 8);
+    const QSize size = IsPlaced() ? QSize(button_.Place().w - 8, button_.Place().h - 8)
+                                  : QSize(PictureInDialog, PictureInDialog);
     const std::string artwork = host_.Platform().ArtworkOf(button_.Image());
     widget_->setText(QString());
+    if (!IsPlaced()) widget_->setFixedWidth(2 * PictureInDialog);
     widget_->setIconSize(size);
     widget_->setIcon(
         host_.Platform().Pictures().Fitted(artwork, size, widget_->devicePixelRatioF()));
@@ -191,7 +216,8 @@ void Mirror::Sync() {
   widget_->setToolTip(PlainTip(control_.Tip()));
   // A field on a board has no caption of its own that a screen reader could find.
   if (placed_ && !qobject_cast<QAbstractButton*>(widget_)) {
-    widget_->setAccessibleName(ToQt(control_.Tip()));
+    const std::string tip = control_.Tip();
+    widget_->setAccessibleName(ToQt(tip.empty() ? CaptionBy(control_) : tip));
   }
   widget_->setEnabled(EnabledThroughout(control_));
   if (placed_) widget_->setGeometry(ToQt(control_.PlaceInWindow()));

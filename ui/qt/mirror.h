@@ -28,6 +28,7 @@ class Mirror {
   Mirror(QtWindow& host, Control& control) : host_(host), control_(control) {}
   void Use(QWidget* widget);
   virtual void SyncContent() = 0;
+  bool IsPlaced() const { return placed_; }
 
   QtWindow& host_;
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "ui/qt/artwork.h"
+#include "ui/qt/color_words.h"
 #include "ui/qt/ground.h"
 #include "ui/qt/painters.h"
 
@@ -67,7 +68,7 @@ void DrawEdges(QPainter& painter, const QRectF& box, double width, const QColor&
   painter.fillRect(QRectF(box.right() - width, box.top(), width, box.height()), color);
 }
 
-void PaintBox(QPainter& painter, const Stroke& stroke) {
+void PaintBox(QPainter& painter, const Stroke& stroke, bool withSign) {
   painter.setRenderHint(QPainter::Antialiasing, false);
   const QRectF box(stroke.a, stroke.b, stroke.c, stroke.c);
   if (stroke.filled) {
@@ -84,9 +85,10 @@ void PaintBox(QPainter& painter, const Stroke& stroke) {
   }
   DrawEdges(painter, box, 1, Qt::black);
   painter.setRenderHint(QPainter::Antialiasing);
+  if (withSign && stroke.filled) PaintSign(painter, box, stroke.color);
 }
 
-void PaintStroke(QPainter& painter, const Stroke& stroke) {
+void PaintStroke(QPainter& painter, const Stroke& stroke, bool boxSigns) {
   switch (stroke.form) {
     case Stroke::Form::Sector:
       FillSector(painter, stroke);
@@ -101,7 +103,7 @@ void PaintStroke(QPainter& painter, const Stroke& stroke) {
       painter.drawEllipse(QPointF(stroke.a, stroke.b), stroke.c, stroke.c);
       break;
     case Stroke::Form::Box:
-      PaintBox(painter, stroke);
+      PaintBox(painter, stroke, boxSigns);
       break;
   }
 }
@@ -136,7 +138,7 @@ void PaintSurface(QPainter& painter, const Surface& surface, const Scene& scene)
   }
   painter.translate(place.topLeft());
   painter.setRenderHint(QPainter::Antialiasing);
-  for (const Stroke& stroke : surface.Drawing()) PaintStroke(painter, stroke);
+  for (const Stroke& stroke : surface.Drawing()) PaintStroke(painter, stroke, scene.boxSigns);
   painter.restore();
 }
 

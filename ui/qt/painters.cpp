@@ -22,6 +22,12 @@ void PaintControl(QPainter& painter, const Control& control, const Scene& scene)
   }
 }
 
+bool IsEmptied(const Control& control) {
+  if (control.GetKind() != Kind::Picture) return false;
+  const auto& picture = static_cast<const Picture&>(control);
+  return picture.Artwork().empty() && picture.Image().empty();
+}
+
 QRect PaintedArea(const Control& control) {
   const QRect place = ToQt(control.PlaceInWindow());
   switch (control.GetKind()) {

@@ -16,9 +16,13 @@ struct Scene {
   Artwork& artwork;
   qreal ratio;  ///< device pixels to a logical pixel
   const std::vector<Control*>& order;
+  bool boxSigns = false;  ///< coloured boxes bear the sign of their colour
 };
 
 void PaintControl(QPainter& painter, const Control& control, const Scene& scene);
+
+/// Whether a picture shows nothing at all.
+bool IsEmptied(const Control& control);
 
 /// All that a control may colour when it is painted: its place, and what stands out from it.
 QRect PaintedArea(const Control& control);

@@ -14,7 +14,9 @@
 #include "ui/qt/accessible.h"
 #include "ui/qt/artwork.h"
 #include "ui/qt/boxes.h"
+#include "ui/qt/icon.h"
 #include "ui/qt/mnemonics.h"
+#include "ui/qt/preferences.h"
 #include "ui/qt/qt_window.h"
 #include "ui/qt/services.h"
 #include "ui/qt/sound.h"
@@ -26,7 +28,7 @@ namespace ui::qt {
 namespace {
 
 constexpr int MostRounds = 200;         // of serving input that goes on causing events
-constexpr int ComposerPatience = 3000;  // milliseconds; a mail composer may stay in foreground
+constexpr int HandOverPatience = 3000;  // milliseconds; what takes a page may stay in foreground
 constexpr std::int64_t LongestSleep = 60'000;
 
 /// Input that a wait has held back arrives only after the dispatcher has been woken.
@@ -71,12 +73,14 @@ QtPlatform::QtPlatform(int& argc, char** argv, Installation installation,
     : clock_(std::move(clock)), warmUp_(std::make_unique<WarmUp>()) {
   QApplication::setStyle(MakeStyle());
   application_ = std::make_unique<QApplication>(argc, argv);
+  IntroduceProgram(installation.icons);
   QApplication::setPalette(PaperPalette());
   QApplication::setQuitOnLastWindowClosed(false);
   mnemonics_ = std::make_unique<InstantMnemonics>();
   application_->installEventFilter(mnemonics_.get());
   MakeBoardsAccessible();
   artwork_ = std::make_unique<Artwork>(ToQt(installation.pictures));
+  preferences_ = std::make_unique<Preferences>(installation.preferences);
   timer_ = std::make_unique<QTimer>();
   timer_->setSingleShot(true);
   timer_->setTimerType(Qt::PreciseTimer);
@@ -120,7 +124,7 @@ bool QtPlatform::WaitFor(QProcess& process) {
   QObject::connect(&process, &QProcess::stateChanged, &loop, [&loop](QProcess::ProcessState state) {
     if (state == QProcess::NotRunning) loop.quit();
   });
-  QTimer::singleShot(ComposerPatience, &loop, [&loop] { loop.quit(); });
+  QTimer::singleShot(HandOverPatience, &loop, [&loop] { loop.quit(); });
   if (process.state() != QProcess::NotRunning) loop.exec(QEventLoop::ExcludeUserInputEvents);
   return process.state() == QProcess::NotRunning;
 }
@@ -345,7 +349,7 @@ void QtPlatform::CloseMusic() {
 }
 
 PageResult QtPlatform::OpenPage(const std::string& url) {
-  return OpenInBrowser(url);
+  return OpenInBrowser(url, [this](QProcess& process) { return WaitFor(process); });
 }
 void QtPlatform::ViewText(const std::string& path) {
   OpenInViewer(path);

@@ -21,13 +21,16 @@ namespace ui::qt {
 class Artwork;
 class InstantMnemonics;
 class Mail;
+class Preferences;
 class QtWindow;
 class Sound;
 class WarmUp;
 
 /// Where the desktop program finds its own files.
 struct Installation {
-  std::string pictures;  ///< directory of the store's artwork, an SVG file each
+  std::string pictures;       ///< directory of the store's artwork, an SVG file each
+  std::string icons{};        ///< directory of the program's icon, a folder for each size
+  std::string preferences{};  ///< path of the file that keeps the player's wishes
 };
 
 /// Whether there is a display to open windows on.
@@ -88,6 +91,7 @@ class QtPlatform : public Desk {
   /// A maximized window turned out to have this outer size, in logical pixels.
   void SetScreenSize(Size size);
   Artwork& Pictures() { return *artwork_; }
+  Preferences& Wishes() { return *preferences_; }
 
  protected:
   /// The view of an open window; null for another one.
@@ -126,6 +130,7 @@ class QtPlatform : public Desk {
   std::unique_ptr<QApplication> application_;
   std::unique_ptr<InstantMnemonics> mnemonics_;
   std::unique_ptr<Artwork> artwork_;
+  std::unique_ptr<Preferences> preferences_;
   std::unique_ptr<QTimer> timer_;  // goes off when the first of the program's timers falls due
   std::map<const Window*, std::unique_ptr<QtWindow>> views_;
   std::vector<std::unique_ptr<QtWindow>> closed_;  // destroyed when no handler is at work

@@ -261,6 +261,12 @@ void QtWindow::TakeFocus(Control& control) {
   if (widget && widget != board_) widget->setFocus(Qt::OtherFocusReason);
 }
 
+bool QtWindow::FocusOnBoard() {
+  if (!board_->HasTargets()) return false;
+  board_->setFocus(Qt::TabFocusReason);
+  return true;
+}
+
 void QtWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   PlaceParts();

@@ -53,6 +53,8 @@ class QtWindow : public QWidget {
   /// The board for what is painted; null for a part of the menu or the status bar.
   QWidget* WidgetOf(const Control& control) const;
   Board& TheBoard() const { return *board_; }
+  /// The keyboard points at the board from now on; false if nothing there can be clicked.
+  bool FocusOnBoard();
 
  protected:
   void closeEvent(QCloseEvent* event) override;

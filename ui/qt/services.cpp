@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 #include <QUrlQuery>
+#include <memory>
 
 #include "ui/qt/strings.h"
 
@@ -40,6 +41,28 @@ bool HasBrowser() {
   return !HandlerOf(QStringLiteral("https")).isEmpty();
 }
 
+/// Starts a program that hands something over; false if it can't be started, or says that it
+/// failed. One that is still at work when the patience is at its end does what it was asked to.
+bool HandTo(const QString& program, const QStringList& arguments, const Waiter& waitFor) {
+  auto process = std::make_unique<QProcess>();
+  process->setStandardOutputFile(QProcess::nullDevice());
+  process->setStandardErrorFile(QProcess::nullDevice());
+  process->start(program, arguments);
+  if (!process->waitForStarted()) return false;
+  if (waitFor(*process)) {
+    return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+  }
+  QProcess* left = process.release();  // destroying it would end the program
+  QObject::connect(left, &QProcess::finished, left, &QObject::deleteLater);
+  return true;
+}
+
+bool OpenLink(const QUrl& url, const Waiter& waitFor) {
+  const QString opener = QStringLiteral("xdg-open");
+  if (Installed(opener)) return HandTo(opener, {url.toString(QUrl::FullyEncoded)}, waitFor);
+  return QDesktopServices::openUrl(url);
+}
+
 QUrl MailtoUrl(const QString& address, const QString& subject, const QString& body) {
   QUrl url;
   url.setScheme(QStringLiteral("mailto"));
@@ -54,9 +77,9 @@ QUrl MailtoUrl(const QString& address, const QString& subject, const QString& bo
 
 }  // namespace
 
-PageResult OpenInBrowser(const std::string& url) {
+PageResult OpenInBrowser(const std::string& url, const Waiter& waitFor) {
   if (!HasBrowser()) return PageResult::NoBrowser;
-  return QDesktopServices::openUrl(QUrl(ToQt(url))) ? PageResult::Opened : PageResult::NotOpened;
+  return OpenLink(QUrl(ToQt(url)), waitFor) ? PageResult::Opened : PageResult::NotOpened;
 }
 
 void OpenInViewer(const std::string& path) {
@@ -82,18 +105,16 @@ bool Mail::HandOver() {
   const QString address = ToQt(parts_["RecipAddress"]);
   const QString subject = ToQt(parts_["MsgSubject"]);
   const QString body = ToQt(parts_["MsgNoteText"]).remove(QLatin1Char('\r'));
-  if (Installed(QStringLiteral("xdg-email"))) {
-    QProcess composer;
-    composer.start(QStringLiteral("xdg-email"),
-                   {QStringLiteral("--utf8"), QStringLiteral("--subject"), subject,
-                    QStringLiteral("--body"), body, address});
-    if (waitFor_(composer) && composer.exitStatus() == QProcess::NormalExit &&
-        composer.exitCode() == 0) {
-      return true;
-    }
-  }
+  const QString composer = QStringLiteral("xdg-email");
+  const QStringList message{QStringLiteral("--utf8"),
+                            QStringLiteral("--subject"),
+                            subject,
+                            QStringLiteral("--body"),
+                            body,
+                            address};
+  if (Installed(composer) && HandTo(composer, message, waitFor_)) return true;
   if (HandlerOf(QStringLiteral("mailto")).isEmpty()) return false;
-  return QDesktopServices::openUrl(MailtoUrl(address, subject, body));
+  return OpenLink(MailtoUrl(address, subject, body), waitFor_);
 }
 
 }  // namespace ui::qt

@@ -12,16 +12,17 @@ class QProcess;
 
 namespace ui::qt {
 
+/// Waits for a process to end, the program's windows painted meanwhile; false if it takes too long.
+using Waiter = std::function<bool(QProcess&)>;
+
 /// Opens a page in the default browser.
-PageResult OpenInBrowser(const std::string& url);
+PageResult OpenInBrowser(const std::string& url, const Waiter& waitFor);
 /// Opens a text in the desktop's viewer; what becomes of it is the viewer's affair.
 void OpenInViewer(const std::string& path);
 
 /// A message put together step by step and handed to the player's own mail composer at `Send`.
 class Mail {
  public:
-  /// Waits for a process to end, its windows painted meanwhile; false if it takes too long.
-  using Waiter = std::function<bool(QProcess&)>;
   explicit Mail(Waiter waitFor) : waitFor_(std::move(waitFor)) {}
 
   /// One operation by its name; false when it fails.
