@@ -94,9 +94,6 @@ class Player {
       case Part::Kind::NoFile:
         if (fs::exists(PathOf(part))) Complain(part, {"  the file is there"});
         return;
-      case Part::Kind::Repeat:
-        for (int times = std::stoi(part.text); times > 0; --times) PlayLines(part);
-        return;
       case Part::Kind::Start:
         process_ = std::make_unique<Process>(words_);
         break;
@@ -115,22 +112,14 @@ class Player {
   /// The answers in a row, with only the last one's `ok`.
   Lines AnswersTo(const Part& part) {
     Lines all;
-    for (int i = 0; i < part.times; ++i) {
+    for (const std::string& command : part.commands) {
       if (!all.empty()) all.pop_back();
-      process_->Send(Meant(part.text));
+      process_->Send(Meant(command));
       const Lines answer = process_->ReadAnswer();
       all.insert(all.end(), answer.begin(), answer.end());
       if (answer.back() != "ok") break;
     }
     return all;
-  }
-
-  void PlayLines(const Part& part) {
-    for (const std::string& command : part.expected) {
-      process_->Send(Meant(command));
-      const Comparison comparison = CompareAnswer({}, Told(process_->ReadAnswer()));
-      if (!comparison.same) Complain(part, comparison.difference);
-    }
   }
 
   std::string PathOf(const Part& part) const { return home_.path + "/" + part.text; }

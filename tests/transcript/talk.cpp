@@ -17,7 +17,7 @@ bool IsNote(const std::string& line) {
 }
 
 bool HoldsLines(Kind kind) {
-  return kind == Kind::File || kind == Kind::ExpectFile || kind == Kind::Repeat;
+  return kind == Kind::File || kind == Kind::ExpectFile;
 }
 
 bool IsAnswered(Kind kind) {
@@ -30,7 +30,7 @@ struct Opening {
 };
 constexpr Opening Openings[] = {{"> ", Kind::Command},       {"@args ", Kind::Args},
                                 {"@file ", Kind::File},      {"@expect-file ", Kind::ExpectFile},
-                                {"@no-file ", Kind::NoFile}, {"@repeat ", Kind::Repeat}};
+                                {"@no-file ", Kind::NoFile}};
 
 class Reader {
  public:
@@ -54,7 +54,7 @@ class Reader {
   }
 
   void Begin(Kind kind, std::string text) {
-    parts_.push_back({kind, std::move(text), line_, 1, {}, {}});
+    parts_.push_back({kind, std::move(text), line_, {}, {}, {}});
   }
 
   /// What comes from here on needs a program that runs.
@@ -73,6 +73,7 @@ class Reader {
     for (const Opening& opening : Openings) {
       if (!line.starts_with(opening.text)) continue;
       Open(opening.kind, line.substr(std::string(opening.text).size()));
+      if (opening.kind == Kind::Command) parts_.back().commands = {parts_.back().text};
       parts_.back().original.push_back(line);
       return;
     }
@@ -92,7 +93,7 @@ class Reader {
     const std::string answer = line.substr(Question.size());
     std::string asked = answer.substr(0, answer.find(" = "));
     if (const auto point = asked.rfind('.'); point != std::string::npos) asked[point] = ' ';
-    Open(Kind::Command, "get " + asked);
+    Send("get " + asked);
     parts_.back().original.push_back(line);
     parts_.back().expected.push_back(answer);
     return true;
@@ -101,10 +102,20 @@ class Reader {
   bool TakeRepeated(const std::string& line) {
     const auto space = line.find(' ');
     if (line[0] != '>' || space == std::string::npos || space < 2) return false;
-    Open(Kind::Command, line.substr(space + 1));
-    parts_.back().times = std::stoi(line.substr(1, space - 1));
+    Send(line.substr(space + 1), std::stoi(line.substr(1, space - 1)));
     parts_.back().original.push_back(line);
     return true;
+  }
+
+  /// The commands in turn, so many times.
+  void Send(const std::string& commands, int times = 1) {
+    Open(Kind::Command, commands);
+    for (; times > 0; --times) {
+      for (std::size_t begin = 0, end = 0; end != std::string::npos; begin = end + 3) {
+        end = commands.find(" ; ", begin);
+        parts_.back().commands.push_back(commands.substr(begin, end - begin));
+      }
+    }
   }
 
   bool HasStarted() const {

@@ -14,10 +14,9 @@ namespace transcript {
 ///                       with CR LF: before the program starts, if it stands before all answers
 ///   @expect-file NAME   that file must hold the lines up to `@end`, with CR LF
 ///   @no-file NAME       there must be no such file
-///   @repeat N           the commands up to `@end`, a line each, are sent N times over; each must
-///                       be answered by `ok` alone
 ///   > COMMAND           is sent to the program; what follows is the answer
-///   >N COMMAND          is sent N times, or until it is refused; what follows is all the answers
+///   >N COMMAND          is sent N times, or until it is refused; what follows is all the answers.
+///                       Several commands can take turns, with ` ; ` between them
 ///   ? LINE              asks, with `get`, for the value that LINE tells: the answer is LINE
 ///   ...                 any number of lines, in an answer or in an expected file
 ///   other lines         the answer, in order; those before the first command are the start-up's
@@ -26,11 +25,11 @@ namespace transcript {
 /// `(ended)` is the answer of a program that is gone. `$HOME_DIR` stands for the home directory
 /// everywhere.
 struct Part {
-  enum class Kind { Note, Args, File, ExpectFile, NoFile, Repeat, Start, Command };
+  enum class Kind { Note, Args, File, ExpectFile, NoFile, Start, Command };
   Kind kind = Kind::Note;
-  std::string text;                   ///< the words, the file's name, the number, or the command
+  std::string text;                   ///< the words, or the file's name
   int line = 0;                       ///< where it begins, from 1
-  int times = 1;                      ///< that the command is sent
+  std::vector<std::string> commands;  ///< that are sent
   std::vector<std::string> original;  ///< its lines as they stand in the file
   std::vector<std::string> expected;  ///< the answer, or the lines up to `@end`
 };
