@@ -79,7 +79,6 @@ class Desk : public Platform {
   void Closed(Window& window);
   void RaiseToTop(Window& window);
 
-
  private:
   void BuryDead();
 

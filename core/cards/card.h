@@ -21,8 +21,8 @@ inline constexpr int king = 13;
 
 // A key has two spellings, " 5S" and "5S"; every function here takes both.
 
-// The number at the start of the key; 0 if there is none, as in an empty slot. Foreign keys can bear
-// any number: it is held within 16 bits, so that sums of ranks stay in an int.
+// The number at the start of the key; 0 if there is none, as in an empty slot. Foreign keys can
+// bear any number: it is held within 16 bits, so that sums of ranks stay in an int.
 int RankOf(std::string_view key);
 
 // The last character of the key; a zero byte for an empty slot.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -157,6 +158,7 @@ class GameWindow : public ui::Window, public TableOwner {
 
   /// What every start of a game begins with: score 0, round 1, no message, no title panel.
   void BeginGame();
+  static void Show(bool visible, std::initializer_list<ui::Control*> controls);
   /// Captions, tips and menus of a game that runs, or of an idle window.
   void ShowRunningCommands();
   void ShowIdleCommands();

@@ -202,6 +202,10 @@ void GameWindow::Flash(ui::Label& label, int times, int milliseconds) {
   }
 }
 
+void GameWindow::Show(bool visible, std::initializer_list<ui::Control*> controls) {
+  for (ui::Control* control : controls) control->Visible = visible;
+}
+
 void GameWindow::WriteScore() {
   Score.Number.Text = Masked(shared.CurrentScore);
 }

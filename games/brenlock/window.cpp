@@ -164,7 +164,6 @@ void frmBrenlock::ShowScoringLabel(bool visible) {
   Show(visible, {&Message, &ScoringLabelInfo, &ScoringLabelRoundTotal});
 }
 
-/// What stands beside the cards while a game runs.
 void frmBrenlock::ShowBoard(bool visible) {
   ShowTimerGroup(visible);
   TimeBonusFrame.Show(visible);

@@ -21,10 +21,6 @@ const core::DeckEntry Backs[] = {{"mnuHot", "&Hot Cards", core::Design::Hot, 1},
 
 }  // namespace
 
-void ColumnWindow::Show(bool visible, std::initializer_list<ui::Control*> controls) {
-  for (ui::Control* control : controls) control->Visible = visible;
-}
-
 void ColumnWindow::Paint(ui::Color color, std::initializer_list<ui::Label*> labels) {
   for (ui::Label* label : labels) label->TextColor = color;
 }

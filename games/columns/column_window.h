@@ -35,7 +35,6 @@ class ColumnWindow : public core::GameWindow {
   static core::MenuRow OptionsMenu(core::MenuRow clear, const std::string& musicCaption,
                                    const std::string& customName);
   static core::MenuRow HelpMenu(const std::string& rulesCaption);
-  static void Show(bool visible, std::initializer_list<ui::Control*> controls);
   static void Paint(ui::Color color, std::initializer_list<ui::Label*> labels);
   /// Blue and bold, as a counter at rest.
   static void StyleCounters(std::initializer_list<ui::Label*> labels);

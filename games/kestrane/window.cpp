@@ -169,10 +169,7 @@ void frmKestrane::ShowControls(bool visible, bool) {
   ShowTimerGroup(visible);
   Trips.Show(visible);
   Runs.Show(visible);
-  for (ui::Label* label : {&lblHighScore, &lblCardCount, &lblRound, &lblTemp, &lblFieldCards}) {
-    label->Visible = visible;
-  }
-  FieldRect.Visible = visible;
+  Show(visible, {&lblHighScore, &lblCardCount, &lblRound, &lblTemp, &lblFieldCards, &FieldRect});
 }
 
 void frmKestrane::WriteCounts() {

@@ -141,10 +141,8 @@ void frmMozaro::PlaceTexts(ui::Size inner, ui::Rect beside) {
 
 void frmMozaro::ShowGameControls(bool visible) {
   ShowCards(visible);
-  for (ui::Label* label :
-       {&lblGridSize, &Score.Number, &lblGroupValue, &lblScoreForNextRound, &Score.Caption}) {
-    label->Visible = visible;
-  }
+  Show(visible,
+       {&lblGridSize, &Score.Number, &lblGroupValue, &lblScoreForNextRound, &Score.Caption});
   Score.Frame.Show(visible);
   Round.Show(visible);
   ShowTimerGroup(visible);

@@ -148,10 +148,8 @@ void frmOstrel::ShowCards(bool visible, bool setBorders) {
 
 void frmOstrel::ShowControls(bool visible, bool keep) {
   ShowScoreGroup(keep);
-  for (ui::Label* label :
-       {&lblCurrentRun, &lblHighRun, &lblHighScore, &lblCardCount, &lblCards, &lblNextCard}) {
-    label->Visible = visible;
-  }
+  Show(visible,
+       {&lblCurrentRun, &lblHighRun, &lblHighScore, &lblCardCount, &lblCards, &lblNextCard});
   ShowTimerGroup(visible);
   Round.Show(visible);
 }

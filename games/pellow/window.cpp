@@ -140,7 +140,7 @@ void frmPellow::ShowControls(bool visible, bool) {
 }
 
 void frmPellow::ShowCardCounters(bool visible) {
-  for (ui::Label* label : {&lblCards, &lblCardCount, &lblHighScore}) label->Visible = visible;
+  Show(visible, {&lblCards, &lblCardCount, &lblHighScore});
 }
 
 /// Cards lie in the order of their positions. An empty place lies behind them all, or it would keep

@@ -22,7 +22,7 @@ struct SavedGame {
   std::string userName;
   std::array<RoundDeck, RoundDecks> decks;
   bool goalChosen = false;  ///< the file names a goal that can be chosen
-  bool whole = false;  ///< nothing was missing or cut short
+  bool whole = false;       ///< nothing was missing or cut short
 };
 
 /// The whole text of a file.

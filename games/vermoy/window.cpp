@@ -69,8 +69,7 @@ frmVermoy::frmVermoy(core::Suite& suite, const core::GameEntry& entry)
   lblMessage.FontSize = 12;
   lblScoring.FontSize = 18;
   lblOverWrites.Wrap = lblPointsEarned.Wrap = lblHighScore.Wrap = true;
-  lblMessage.Visible = lblScoring.Visible = ScoringLabelOutline.Visible = false;
-  lblTimeBonus.Visible = false;
+  Show(false, {&lblMessage, &lblScoring, &ScoringLabelOutline, &lblTimeBonus});
   // The messages lie on the outline, which is declared after the frame's own labels.
   BringToFront(Message);
   ShowHands();
@@ -143,15 +142,12 @@ void frmVermoy::ShowCell(int cell) {
 }
 
 void frmVermoy::ShowControls(bool counters, bool clock) {
-  for (ui::Label* label : {&lblPointsEarned, &lblRound, &lblCards, &lblOverWrites}) {
-    label->Visible = counters;
-  }
+  Show(counters, {&lblPointsEarned, &lblRound, &lblCards, &lblOverWrites});
   RoundFrame.Show(counters);
   lblRow.Show(counters);
   lblCol.Show(counters);
   ShowTimerGroup(clock);
-  lblTimeBonus.Visible = clock;
-  lblHighScore.Visible = clock;
+  Show(clock, {&lblTimeBonus, &lblHighScore});
 }
 
 void frmVermoy::ShowHands() {

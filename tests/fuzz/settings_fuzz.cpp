@@ -15,7 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       core::Flag("[Play Sounds]", flag), core::Number("[Time]", small),
       core::Number("[Time Bonus]", large), core::Text("[MIDI]", text)};
   core::ReadSettings(std::string_view(reinterpret_cast<const char*>(data), size), keys);
-  // What has been read is written so that it reads the same again, but for texts that quoting changes.
+  // What has been read is written so that it reads the same again, but for texts that quoting
+  // changes.
   const bool flagBefore = flag;
   const std::int32_t largeBefore = large;
   core::ReadSettings(core::FormatSettings(keys), keys);

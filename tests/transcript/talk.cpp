@@ -28,8 +28,10 @@ struct Opening {
   const char* text;
   Kind kind;
 };
-constexpr Opening Openings[] = {{"> ", Kind::Command},       {"@args ", Kind::Args},
-                                {"@file ", Kind::File},      {"@expect-file ", Kind::ExpectFile},
+constexpr Opening Openings[] = {{"> ", Kind::Command},
+                                {"@args ", Kind::Args},
+                                {"@file ", Kind::File},
+                                {"@expect-file ", Kind::ExpectFile},
                                 {"@no-file ", Kind::NoFile}};
 
 class Reader {

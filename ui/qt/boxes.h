@@ -12,8 +12,8 @@ class QWidget;
 
 namespace ui::qt {
 
-/// Puts a message over `above` (null for none). `run` shows it, waits for the answer and returns the
-/// standard button that was pressed.
+/// Puts a message over `above` (null for none). `run` shows it, waits for the answer and returns
+/// the standard button that was pressed.
 Answer AskBox(QWidget* above, Sign sign, Buttons buttons, const std::string& title,
               const std::string& text, const std::function<int(QMessageBox&)>& run);
 

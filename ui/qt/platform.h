@@ -105,8 +105,8 @@ class QtPlatform : public Desk {
 
   // How a player is waited for; a platform whose player is a script has its own ways.
   virtual void ArmTimer();
-  virtual void HoldUp(QtWindow& modal);   ///< returns when it has been closed
-  virtual int HoldUp(QMessageBox& box);   ///< returns the standard button that closed it
+  virtual void HoldUp(QtWindow& modal);  ///< returns when it has been closed
+  virtual int HoldUp(QMessageBox& box);  ///< returns the standard button that closed it
 
  private:
   enum class Pump { Free, Serving, Waiting };

@@ -103,7 +103,8 @@ Answer Director::MessageBox(Sign sign, Buttons buttons, const std::string& title
   Tell(std::string("box ") + SignNames[Number(sign)] + " " + ButtonsNames[Number(buttons)] + " " +
        Quote(title) + " " + Quote(text));
   Stand stand{{Standing::What::Box, buttons, nullptr}, false, LastAnswers[Number(buttons)], {}};
-  LetStand(stand, [&] { return stand.answered; }, holdUp);
+  LetStand(
+      stand, [&] { return stand.answered; }, holdUp);
   return stand.answer;
 }
 
@@ -111,14 +112,16 @@ std::optional<std::string> Director::AskFile(const FileDialog& dialog) {
   const bool open = dialog.purpose == FileDialog::Purpose::Open;
   Tell((open ? "file open " : "file save ") + Quote(dialog.title) + " " + Quote(dialog.filter));
   Stand stand{{Standing::What::FileDialog, Buttons::OkCancel, nullptr}, false, {}, {}};
-  LetStand(stand, [&] { return stand.answered; }, [](const auto& converse) { converse(); });
+  LetStand(
+      stand, [&] { return stand.answered; }, [](const auto& converse) { converse(); });
   return stand.path;
 }
 
 void Director::ShowModal(Window& window, const HoldUp& holdUp) {
   Tell("modal " + window.Name());
   Stand stand{{Standing::What::ModalWindow, Buttons::Ok, &window}, false, {}, {}};
-  LetStand(stand, [&] { return !window.IsOpen() || window.IsHidden(); }, holdUp);
+  LetStand(
+      stand, [&] { return !window.IsOpen() || window.IsHidden(); }, holdUp);
 }
 
 std::vector<Standing> Director::AllStanding() const {

@@ -245,8 +245,7 @@ void Interpreter::Get(const Command& command) {
   }
 }
 
-void Interpreter::AddProperties(const Command& command,
-                                const Properties& properties) {
+void Interpreter::AddProperties(const Command& command, const Properties& properties) {
   const std::string& name = command.words[1].text;
   bool found = false;
   for (const PropertyText& property : properties) {

@@ -97,7 +97,8 @@ QWidget* Hands::WidgetOf(const Control& control) {
 
 script::Properties Hands::Look(const Control& control) {
   script::Properties properties = script::PropertiesOf(control);
-  if (const QtWindow* view = desktop_.ViewOf(control.Owner())) SeeOnScreen(*view, control, properties);
+  if (const QtWindow* view = desktop_.ViewOf(control.Owner()))
+    SeeOnScreen(*view, control, properties);
   return properties;
 }
 

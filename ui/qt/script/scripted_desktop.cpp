@@ -19,7 +19,8 @@ void PassOverRemarks(QtMsgType, const QMessageLogContext&, const QString& messag
 
 /// A screen on which a maximized window's inside is as large as on the screen that the program is
 /// told of: the hidden display's frames are narrower.
-constexpr const char* Screen = R"({"screens":[{"name":"hidden","x":0,"y":0,"width":1916,"height":1053,
+constexpr const char* Screen =
+    R"({"screens":[{"name":"hidden","x":0,"y":0,"width":1916,"height":1053,
   "logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
 
 }  // namespace

@@ -112,7 +112,8 @@ void SeeOnScreen(const QtWindow& view, const Control& control, script::Propertie
   } else if (control.GetKind() == Kind::Panel) {
     const auto* label = view.findChild<QLabel*>(name);
     if (label) comparison.Text("text", As<Panel>(comparison).Text(), label->text());
-  } else if (const QWidget* widget = view.WidgetOf(control); widget && widget->objectName() == name) {
+  } else if (const QWidget* widget = view.WidgetOf(control);
+             widget && widget->objectName() == name) {
     SeeWidget(comparison, *widget);
     SeeState(comparison, *widget, view);
   }
