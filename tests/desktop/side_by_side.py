@@ -9,7 +9,7 @@ import subprocess
 import sys
 import tempfile
 
-DRAWS_A_STEP = 250
+DRAWS_A_STEP = 200
 TEXTS = ["", "7", "-3", "250000", "99999999999", "Ann", "Grüße", "x" * 70, "1.5"]
 MOMENTS = [0, 1, 50, 999, 1000, 1001, 5000, 61000, 200000]
 
@@ -95,8 +95,12 @@ def main():
     print("seed", seed, flush=True)
     pair = Pair(sys.argv[1:3])
     for _ in range(steps):
-        pair.say("draws " + " ".join(f"{chance.random():.6f}" for _ in range(DRAWS_A_STEP)))
-        pair.say(act(chance, pair))
+        command = act(chance, pair)
+        # Draws of chance are the same for both as long as there are some left.
+        waited = int(command.split()[1]) if command.startswith("wait") else 0
+        draws = DRAWS_A_STEP + waited // 60
+        pair.say("draws " + " ".join(f"{chance.random():.6f}" for _ in range(draws)))
+        pair.say(command)
         if not pair.ended:
             pair.say("get focus")
         else:
