@@ -5,6 +5,13 @@
 
 namespace core {
 
+MenuRow HelpMenu(const std::string& rulesCaption, const std::string& aboutCaption) {
+  return Heading("mnuHelp", "&Help",
+                 {{"mnuRules", rulesCaption, Command::Rules},
+                  {"mnuReadme", "&View Readme File", Command::Readme},
+                  {"mnuAbout", aboutCaption, Command::About}});
+}
+
 void GameMenu::Build(const std::vector<MenuRow>& rows) {
   for (const MenuRow& row : rows) Add(row, nullptr);
 }

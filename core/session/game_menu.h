@@ -46,6 +46,10 @@ inline MenuRow Heading(std::string name, std::string caption, std::vector<MenuRo
   return {std::move(name), std::move(caption), Command::Other, {}, std::move(entries)};
 }
 
+/// The help menu of every game; the captions are not quite the same in all of them.
+MenuRow HelpMenu(const std::string& rulesCaption = "&Rules",
+                 const std::string& aboutCaption = "&About");
+
 /// A time limit that the player can choose; its entry is named "mnu" and the seconds.
 struct TimeEntry {
   int seconds;

@@ -55,7 +55,7 @@ frmBrenlock::frmBrenlock(core::Suite& suite, const core::GameEntry& entry)
                          "Play &Music  (plays during game)", "mnuCustom"),
              {"mnuTime", "&Time limit", Command::Time, {}, TimeRows()},
              core::Heading("mnuDeck", "&Deck", DeckRows()),
-             HelpMenu("&Rules")});
+             core::HelpMenu()});
   MakeTable();
   CardTotal.Number.Text = "0";
   CardTotal.Number.TextColor = ui::Red;

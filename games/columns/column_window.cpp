@@ -90,13 +90,6 @@ core::MenuRow ColumnWindow::OptionsMenu(core::MenuRow clear, const std::string& 
                         {customName, "&User Options...", Command::Custom}});
 }
 
-core::MenuRow ColumnWindow::HelpMenu(const std::string& rulesCaption) {
-  return core::Heading("mnuHelp", "&Help",
-                       {{"mnuRules", rulesCaption, core::Command::Rules},
-                        {"mnuReadme", "&View Readme File", core::Command::Readme},
-                        {"mnuAbout", "&About", core::Command::About}});
-}
-
 SharedValues ColumnWindow::ValuesOfColumns() {
   return {shared.DeckIndex, shared.PassesLeft, shared.CardsToPass, shared.SoftAces};
 }

@@ -34,7 +34,6 @@ class ColumnWindow : public core::GameWindow {
   static core::MenuRow FileMenu();
   static core::MenuRow OptionsMenu(core::MenuRow clear, const std::string& musicCaption,
                                    const std::string& customName);
-  static core::MenuRow HelpMenu(const std::string& rulesCaption);
   static void Paint(ui::Color color, std::initializer_list<ui::Label*> labels);
   /// Blue and bold, as a counter at rest.
   static void StyleCounters(std::initializer_list<ui::Label*> labels);

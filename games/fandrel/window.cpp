@@ -55,11 +55,7 @@ frmFandrel::frmFandrel(core::Suite& suite, const core::GameEntry& entry)
                             {"mnuSounds", "&Play Sounds", Command::Sounds},
                             {"mnuCustom", "&User Options...", Command::Custom},
                             {"mnuTime", "Time Limit", Command::Time, {}, TimeRows()}}),
-             core::Heading("mnuDeck", "Deck", DeckRows()),
-             core::Heading("mnuHelp", "&Help",
-                           {{"mnuRules", "&Rules", Command::Rules},
-                            {"mnuReadme", "&View Readme File", Command::Readme},
-                            {"mnuAbout", "&About", Command::About}})});
+             core::Heading("mnuDeck", "Deck", DeckRows()), core::HelpMenu()});
   Score.Caption.Tip = Score.Number.Tip = "Displays your Current Score";
   imgUpperCard(1).Tip = "Upper spot one";
   imgUpperCard(2).Tip = "Upper spot two";

@@ -77,13 +77,7 @@ frmPhrase::frmPhrase(core::Suite& suite, const core::GameEntry& entry)
         {"mnuCustom", "&User Options...", Command::Custom},
         {"mnuTime", "&Time Limit", Command::Time, {}, TimeRows()},
         {"mnuTopic", "T&opic Selection", Command::Other, {}, TopicRows()}}},
-      {"mnuHelp",
-       "&Help",
-       Command::Other,
-       {},
-       {{"mnuRules", "&Rules", Command::Rules},
-        {"mnuReadme", "&View Readme File", Command::Readme},
-        {"mnuAbout", "&About", Command::About}}},
+      core::HelpMenu(),
   });
   LetterTile.PutInto(fmPhrase);
   lblLetter.PutInto(fmPhrase);

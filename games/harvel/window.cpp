@@ -51,7 +51,7 @@ frmHarvel::frmHarvel(core::Suite& suite, const core::GameEntry& entry)
                   "Play &Music (plays during game)", "mnuUserOptions"),
       core::Heading("mnuDeck", "&Deck", DeckRows()),
       {"mnuTimeLimit", "&Time limit", Command::Time, {}, TimeRows()},
-      HelpMenu("&Rules..."),
+      core::HelpMenu("&Rules..."),
   });
   const auto inFrame = {&lblTwentyoneTime, &lblTwentyOnes,     &lbl21s, &lbl21Bonus, &lblBonus,
                         &lblRoundScore,    &lblRoundScoreCount};

@@ -57,10 +57,7 @@ frmKestrane::frmKestrane(core::Suite& suite, const core::GameEntry& entry)
                      {"mnuCustom", "&User Options...", Command::Custom}}),
       {"mnuTime", "&Time Limit", Command::Time, {}, TimeRows()},
       core::Heading("mnuDeck", "Dec&k", DeckRows()),
-      core::Heading("mnuHelp", "&Help",
-                    {{"mnuRules", "&Rules", Command::Rules},
-                     {"mnuReadme", "&View Readme File", Command::Readme},
-                     {"mnuAbout", "&About...", Command::About}}),
+      core::HelpMenu("&Rules", "&About..."),
   });
   for (Spot spot : AllSpots) {
     PictureOf(spot).OnMouseMove = [this, spot] { PointAt(spot); };

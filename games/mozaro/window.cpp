@@ -57,10 +57,7 @@ frmMozaro::frmMozaro(core::Suite& suite, const core::GameEntry& entry)
                      {"mnuClearBackground", "Clear Back &Ground Image..", Command::Other,
                       [this] { mnuClearBackground_Click(); }},
                      {"mnuTime", "&Time limit", Command::Time, {}, TimeRows()}}),
-      core::Heading("mnuHelp", "&Help",
-                    {{"mnuRules", "&Rules", Command::Rules},
-                     {"mnuReadme", "&View Readme File", Command::Readme},
-                     {"mnuAbout", "&About", Command::About}}),
+      core::HelpMenu(),
   });
   PlayingSurface.OnMouseDown = [this](int x, int y) { PlayingSurface_MouseDown(x, y); };
   PlayingSurface.OnMouseMoveAt = [this](int x, int y) { PlayingSurface_MouseMove(x, y); };

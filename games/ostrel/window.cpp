@@ -69,10 +69,7 @@ frmOstrel::frmOstrel(core::Suite& suite, const core::GameEntry& entry)
                      {"mnuCustom", "&User Options...", Command::Custom},
                      {"mnuTime", "&Time Limit", Command::Time, {}, TimeRows()}}),
       core::Heading("mnuDeck", "Dec&k", DeckRows()),
-      core::Heading("mnuHelp", "&Help",
-                    {{"mnuRules", "&Rules", Command::Rules},
-                     {"mnuReadme", "&View Readme File", Command::Readme},
-                     {"mnuAbout", "&About", Command::About}}),
+      core::HelpMenu(),
   });
   for (int tower = 1; tower <= Towers; ++tower) {
     TowerLabel(tower).Text = "Tower " + core::Digits(tower) + " Completed!";

@@ -65,10 +65,7 @@ frmPellow::frmPellow(core::Suite& suite, const core::GameEntry& entry)
                 [this] { background_.Clear(); }}}),
       {"mnuTime", "&Time Limit", Command::Time, {}, TimeRows()},
       Heading("mnuDeck", "Dec&k", DeckRows()),
-      Heading("mnuHelp", "&Help",
-              {{"mnuRules", "&Rules", Command::Rules},
-               {"mnuReadme", "&View Readme File", Command::Readme},
-               {"mnuAbout", "&About", Command::About}}),
+      core::HelpMenu(),
   });
   CardStackPicture.OnMouseMove = [this] {
     CardStackPicture.Pointer = CardStackPicture.Key() == "EMPTY" ? "" : "POINTER";

@@ -88,13 +88,7 @@ frmQuindle::frmQuindle(core::Suite& suite, const core::GameEntry& entry)
          [this] { mnuDrawTimer_Click(); }},
         {"mnuColor", "&Card Selection Color", Command::Other, {}, ColorRows()}}},
       {"mnuDeck", "Dec&k", Command::Other, {}, DeckRows()},
-      {"mnuHelp",
-       "&Help",
-       Command::Other,
-       {},
-       {{"mnuRules", "&Rules...", Command::Rules},
-        {"mnuReadme", "&View Readme File", Command::Readme},
-        {"mnuAbout", "&About...", Command::About}}},
+      core::HelpMenu("&Rules...", "&About..."),
   });
   Score.Caption.Tip = Score.Number.Tip = "Displays your Current Score";
   Score.Number.OnChange = [this] { lblCurrentScore_Change(); };

@@ -56,11 +56,7 @@ frmVermoy::frmVermoy(core::Suite& suite, const core::GameEntry& entry)
                             {"mnuMusic", "Play &Music (plays during game)", Command::Music},
                             {"mnuMIDI", "S&elect Music File...", Command::MusicFile},
                             {"mnuSounds", "&Play Sounds", Command::Sounds}}),
-             core::Heading("mnuDeck", "Dec&k", DeckRows()),
-             core::Heading("mnuHelp", "&Help",
-                           {{"mnuRules", "&Rules", Command::Rules},
-                            {"mnuReadme", "&View Readme File", Command::Readme},
-                            {"mnuAbout", "&About", Command::About}})});
+             core::Heading("mnuDeck", "Dec&k", DeckRows()), core::HelpMenu()});
   for (ui::Label* label : {&lblRound, &lblPointsEarned, &lblTimeBonus, &lblMessage, &lblScoring}) {
     label->TextColor = ui::Blue;
     label->Bold = true;
