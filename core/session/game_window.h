@@ -181,6 +181,8 @@ class GameWindow : public ui::Window, public TableOwner {
   void HideMessage();
   /// Swaps the label between red and black so many times, with a wait after each.
   void Flash(ui::Label& label, int times, int milliseconds = 250);
+  /// A title in the colour that the message has, until it has flashed.
+  void FlashTitle(const std::string& title, int times);
   void WriteScore();
   /// Adds to the score and shows it.
   void AddPoints(std::int64_t points);

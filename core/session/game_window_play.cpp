@@ -202,6 +202,13 @@ void GameWindow::Flash(ui::Label& label, int times, int milliseconds) {
   }
 }
 
+void GameWindow::FlashTitle(const std::string& title, int times) {
+  Message.Text = title;
+  Message.Visible = true;
+  Flash(Message, times);
+  Message.Visible = false;
+}
+
 void GameWindow::Show(bool visible, std::initializer_list<ui::Control*> controls) {
   for (ui::Control* control : controls) control->Visible = visible;
 }

@@ -217,9 +217,8 @@ void frmFandrel::PayBonuses(Board board) {
 
 void frmFandrel::Announce(const std::string& title, const std::string& wave) {
   Wave(wave);
-  ShowMessage(title, Message.TextColor());
-  Flash(Message, Flashes);
-  HideMessage();
+  FlashTitle(title, Flashes);
+  Message.Text = "";
   ServeAndDrop();
   StartRound();
 }

@@ -115,9 +115,8 @@ void frmPhrase::PayGuesses() {
 // --- what comes next ----------------------------------------------------------------------------
 
 void frmPhrase::PrepareFor(const std::string& message) {
-  ShowMessage(message, ui::Red);
-  Flash(Message, RoundFlashes);
-  Message.Visible = false;
+  Message.TextColor = ui::Red;
+  FlashTitle(message, RoundFlashes);
 }
 
 void frmPhrase::StartRoundTwo() {

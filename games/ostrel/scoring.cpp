@@ -74,9 +74,7 @@ void frmOstrel::GoOnAfterRound() {
 }
 
 void frmOstrel::PrepareForRound(const std::string& title) {
-  Message.Text = title;
-  Flash(Message, RoundFlashes);
-  Message.Visible = false;
+  FlashTitle(title, RoundFlashes);
   StartRound();
 }
 

@@ -49,10 +49,9 @@ void frmPellow::GoOnAfterRound() {
 }
 
 void frmPellow::PrepareFor(const std::string& title, const std::string& wave) {
-  ShowMessage(title, ui::Red);
+  Message.TextColor = ui::Red;
   if (!wave.empty()) Wave(wave);
-  Flash(Message, RoundFlashes);
-  Message.Visible = false;
+  FlashTitle(title, RoundFlashes);
   EnableRoundCommands(true);
   Hourglass = false;
   InitRound();
