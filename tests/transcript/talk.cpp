@@ -28,8 +28,7 @@ struct Opening {
   const char* text;
   Kind kind;
 };
-constexpr Opening Openings[] = {{"> ", Kind::Command},
-                                {"@args ", Kind::Args},
+constexpr Opening Openings[] = {{"@args ", Kind::Args},
                                 {"@file ", Kind::File},
                                 {"@expect-file ", Kind::ExpectFile},
                                 {"@no-file ", Kind::NoFile}};
@@ -71,11 +70,10 @@ class Reader {
   }
 
   void TakeLine(const std::string& line) {
-    if (TakeRepeated(line) || TakeQuestion(line)) return;
+    if (TakeCommands(line) || TakeQuestion(line)) return;
     for (const Opening& opening : Openings) {
       if (!line.starts_with(opening.text)) continue;
       Open(opening.kind, line.substr(std::string(opening.text).size()));
-      if (opening.kind == Kind::Command) parts_.back().commands = {parts_.back().text};
       parts_.back().original.push_back(line);
       return;
     }
@@ -101,10 +99,10 @@ class Reader {
     return true;
   }
 
-  bool TakeRepeated(const std::string& line) {
+  bool TakeCommands(const std::string& line) {
     const auto space = line.find(' ');
-    if (line[0] != '>' || space == std::string::npos || space < 2) return false;
-    Send(line.substr(space + 1), std::stoi(line.substr(1, space - 1)));
+    if (!line.starts_with('>') || space == std::string::npos) return false;
+    Send(line.substr(space + 1), space == 1 ? 1 : std::stoi(line.substr(1, space - 1)));
     parts_.back().original.push_back(line);
     return true;
   }

@@ -14,9 +14,10 @@ namespace transcript {
 ///                       with CR LF: before the program starts, if it stands before all answers
 ///   @expect-file NAME   that file must hold the lines up to `@end`, with CR LF
 ///   @no-file NAME       there must be no such file
-///   > COMMAND           is sent to the program; what follows is the answer
-///   >N COMMAND          is sent N times, or until it is refused; what follows is all the answers.
-///                       Several commands can take turns, with ` ; ` between them
+///   > COMMAND           is sent to the program; what follows is the answer. Several commands, with
+///                       ` ; ` between them, are sent in turn: what follows is all their answers,
+///                       with the `ok` of the last. A refusal ends the row
+///   >N COMMAND          is sent N times over
 ///   ? LINE              asks, with `get`, for the value that LINE tells: the answer is LINE
 ///   ...                 any number of lines, in an answer or in an expected file
 ///   other lines         the answer, in order; those before the first command are the start-up's
