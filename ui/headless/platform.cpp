@@ -6,21 +6,22 @@
 
 namespace ui {
 
+HeadlessPlatform::HeadlessPlatform() {
+  director_ = std::make_unique<script::Director>(*this);
+}
+
 void HeadlessPlatform::ServeEvents() {
-  director_.ServeEvents([this] { TickAllDue(); });
+  director_->ServeEvents([this] { TickAllDue(); });
 }
 
 Answer HeadlessPlatform::MessageBox(Sign sign, Buttons buttons, const std::string& title,
                                     const std::string& text) {
-  return director_.MessageBox(sign, buttons, title, text, [](const auto& converse) { converse(); });
+  return director_->MessageBox(sign, buttons, title, text,
+                               [](const auto& converse) { converse(); });
 }
 
 std::optional<std::string> HeadlessPlatform::AskFile(const FileDialog& dialog) {
-  return director_.AskFile(dialog);
-}
-
-bool HeadlessPlatform::MailStep(const std::string& operation, std::optional<std::string> value) {
-  return director_.MailStep(operation, value);
+  return director_->AskFile(dialog);
 }
 
 void HeadlessPlatform::Open(Window& window, bool modal) {
@@ -29,12 +30,12 @@ void HeadlessPlatform::Open(Window& window, bool modal) {
 }
 
 void HeadlessPlatform::Show(Window& window) {
-  director_.TellShow(window);
+  director_->TellShow(window);
   Open(window, false);
 }
 
 void HeadlessPlatform::ShowModal(Window& window) {
-  director_.ShowModal(window, [&](const auto& converse) {
+  director_->ShowModal(window, [&](const auto& converse) {
     Run([&] { Open(window, true); });
     converse();
   });
@@ -44,13 +45,13 @@ void HeadlessPlatform::ShowModal(Window& window) {
 
 void HeadlessPlatform::Hide(Window& window) {
   if (!window.IsOpen() || window.IsHidden()) return;
-  director_.TellHide(window);
+  director_->TellHide(window);
   WasHidden(window);
 }
 
 void HeadlessPlatform::Close(Window& window) {
   if (!window.IsOpen()) return;
-  director_.TellClose(window);
+  director_->TellClose(window);
   Closed(window);
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "ui/qt/qt_window.h"
+#include "ui/qt/script/hands.h"
 
 namespace ui::qt {
 namespace {
@@ -36,16 +37,18 @@ HiddenDisplay::HiddenDisplay() : screen_(std::make_unique<QTemporaryFile>()) {
 HiddenDisplay::~HiddenDisplay() = default;
 
 ScriptedDesktop::ScriptedDesktop(int& argc, char** argv, Installation installation)
-    : QtPlatform(argc, argv, std::move(installation)) {}
+    : Directed(argc, argv, std::move(installation)) {
+  director_ = std::make_unique<Hands>(*this);
+}
 
 void ScriptedDesktop::Wait(int milliseconds) {
-  hands_.Wait(milliseconds);
+  director_->Wait(milliseconds);
   SyncAll();
   for (Window* window : Windows()) Repaint(*window);
 }
 
 void ScriptedDesktop::ServeEvents() {
-  hands_.ServeEvents([this] { QtPlatform::ServeEvents(); });
+  director_->ServeEvents([this] { QtPlatform::ServeEvents(); });
 }
 
 // --- What holds up its caller ------------------------------------------------------------------
@@ -71,20 +74,20 @@ Answer ScriptedDesktop::MessageBox(Sign sign, Buttons buttons, const std::string
                                    const std::string& text) {
   std::optional<Answer> pressed;
   const Answer given =
-      hands_.MessageBox(sign, buttons, title, text, [&](const std::function<void()>& converse) {
+      director_->MessageBox(sign, buttons, title, text, [&](const std::function<void()>& converse) {
         Converse(converse, [&] { pressed = QtPlatform::MessageBox(sign, buttons, title, text); });
       });
   // The program can end behind a box that nobody has answered.
-  return pressed && !hands_.Ended() ? *pressed : given;
+  return pressed && !director_->Ended() ? *pressed : given;
 }
 
 std::optional<std::string> ScriptedDesktop::AskFile(const FileDialog& dialog) {
   SyncAll();
-  return hands_.AskFile(dialog);
+  return director_->AskFile(dialog);
 }
 
 void ScriptedDesktop::ShowModal(Window& window) {
-  hands_.ShowModal(window, [&](const std::function<void()>& converse) {
+  director_->ShowModal(window, [&](const std::function<void()>& converse) {
     Converse(converse, [&] { QtPlatform::ShowModal(window); });
   });
   if (window.IsOpen()) QtPlatform::Close(window);
@@ -93,24 +96,20 @@ void ScriptedDesktop::ShowModal(Window& window) {
 // --- Windows -----------------------------------------------------------------------------------
 
 void ScriptedDesktop::Show(Window& window) {
-  hands_.TellShow(window);
+  director_->TellShow(window);
   QtPlatform::Show(window);
 }
 
 void ScriptedDesktop::Hide(Window& window) {
   if (!window.IsOpen() || window.IsHidden()) return;
-  hands_.TellHide(window);
+  director_->TellHide(window);
   QtPlatform::Hide(window);
 }
 
 void ScriptedDesktop::Close(Window& window) {
   if (!window.IsOpen()) return;
-  hands_.TellClose(window);
+  director_->TellClose(window);
   QtPlatform::Close(window);
-}
-
-bool ScriptedDesktop::MailStep(const std::string& operation, std::optional<std::string> value) {
-  return hands_.MailStep(operation, value);
 }
 
 }  // namespace ui::qt

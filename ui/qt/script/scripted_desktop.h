@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "ui/qt/platform.h"
-#include "ui/qt/script/hands.h"
+#include "ui/script/directed.h"
 
 class QTemporaryFile;
 
@@ -22,15 +22,10 @@ class HiddenDisplay {
 
 /// All that is a widget is real and is used as a player uses it; message boxes too. File dialogs,
 /// sound, browser, viewer and mail belong to the machine: here they are the director's.
-class ScriptedDesktop : private HiddenDisplay, public QtPlatform {
+class ScriptedDesktop : private HiddenDisplay, public script::Directed<QtPlatform> {
  public:
   ScriptedDesktop(int& argc, char** argv, Installation installation);
 
-  /// The stage on which a script plays.
-  script::Director& Stage() { return hands_; }
-
-  std::int64_t Now() const override { return hands_.Now(); }
-  std::int64_t Ticks() const override { return hands_.Ticks(); }
   void Wait(int milliseconds) override;
   void ServeEvents() override;
   Answer MessageBox(Sign sign, Buttons buttons, const std::string& title,
@@ -40,16 +35,6 @@ class ScriptedDesktop : private HiddenDisplay, public QtPlatform {
   void ShowModal(Window& window) override;
   void Hide(Window& window) override;
   void Close(Window& window) override;
-  Size ScreenSize() const override { return {1920, 1080}; }
-  void PlayWave(const std::string& path) override { hands_.PlayWave(path); }
-  bool OpenMusic(const std::string& path) override { return hands_.OpenMusic(path); }
-  void PlayMusic() override { hands_.Tell("music play"); }
-  void PauseMusic() override { hands_.Tell("music pause"); }
-  void CloseMusic() override { hands_.Tell("music close"); }
-  PageResult OpenPage(const std::string& url) override { return hands_.OpenPage(url); }
-  void ViewText(const std::string& path) override { hands_.ViewText(path); }
-  bool MailStep(const std::string& operation, std::optional<std::string> value) override;
-  void Quit() override { hands_.Quit(); }
 
  protected:
   void ArmTimer() override {}  // the director lets timers tick
@@ -61,7 +46,6 @@ class ScriptedDesktop : private HiddenDisplay, public QtPlatform {
   /// Does `open`, in which one of the two HoldUp has the player go on.
   void Converse(const std::function<void()>& converse, const std::function<void()>& open);
 
-  Hands hands_{*this};
   const std::function<void()>* converse_ = nullptr;  ///< of what opens just now
 };
 
